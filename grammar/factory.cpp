@@ -1,0 +1,85 @@
+#include "grammar/factory.h"
+
+#include "languages/arabic/arab_grammar.h"
+#include "languages/centralasian/armjan_grammar.h"
+#include "languages/centralasian/georg_grammar.h"
+#include "languages/centralasian/kazah_grammar.h"
+#include "languages/centralasian/tadjik_grammar.h"
+#include "languages/centralasian/uzbek_grammar.h"
+#include "languages/english/english_grammar.h"
+#include "languages/romanian/roman_grammar.h"
+#include "languages/russian/rus_grammar.h"
+#include "languages/russian/rus_grammar_trans.h"
+#include "languages/russian/ukranian_grammar.h"
+
+namespace vela {
+namespace {
+
+using Maker = IGrammar* (*)(unsigned char transliterated);
+
+template <class T>
+IGrammar* make(unsigned char) {
+  return new T;
+}
+
+IGrammar* makeRussian(unsigned char transliterated) {
+  if (transliterated == 0) return new RusGrammar;
+  return new RusGrammarTrans;
+}
+
+struct TagRow {
+  const char* tag;
+  Maker maker;
+};
+
+// Tried in this order; the first exact match decides. The odd spellings are
+// tags in their own right, and "GEORGIA" is listed twice on purpose.
+constexpr TagRow kTags[] = {
+    {"ENGLISH", make<EnglishGrammar>},    {"eng", make<EnglishGrammar>},
+    {"en", make<EnglishGrammar>},
+
+    {"RUSSIAN", makeRussian},             {"rus", makeRussian},
+    {"ru", makeRussian},
+
+    {"ROMANIAN", make<RomanGrammar>},     {"mol", make<RomanGrammar>},
+    {"mo", make<RomanGrammar>},           {"rom", make<RomanGrammar>},
+    {"ro", make<RomanGrammar>},           {"rum", make<RomanGrammar>},
+    {"MOLDOVA", make<RomanGrammar>},
+
+    {"UKRANIAN", make<UkranianGrammar>},  {"UKRAINIAN", make<UkranianGrammar>},
+    {"ukr", make<UkranianGrammar>},       {"uk", make<UkranianGrammar>},
+    {"UKRAINIEN", make<UkranianGrammar>}, {"UKRAINE", make<UkranianGrammar>},
+
+    {"UZBEK", make<UzbekGrammar>},        {"uzb", make<UzbekGrammar>},
+    {"uz", make<UzbekGrammar>},           {"OUSZBEK", make<UzbekGrammar>},
+    {"UZBEKISTAN", make<UzbekGrammar>},
+
+    {"TADJIK", make<TadjikGrammar>},      {"tgk", make<TadjikGrammar>},
+    {"tg", make<TadjikGrammar>},          {"TAJIK", make<TadjikGrammar>},
+    {"TAJIKISTAN", make<TadjikGrammar>},
+
+    {"KAZAH", make<KazahGrammar>},        {"kaz", make<KazahGrammar>},
+    {"kk", make<KazahGrammar>},           {"KAZAKH", make<KazahGrammar>},
+    {"KAZAKHSTAN", make<KazahGrammar>},
+
+    {"GEORGIA", make<GeorgGrammar>},      {"geo", make<GeorgGrammar>},
+    {"ka", make<GeorgGrammar>},           {"GEORGIAN", make<GeorgGrammar>},
+    {"GEORGIA", make<GeorgGrammar>},
+
+    {"ARMJAN", make<ArmjanGrammar>},      {"hy", make<ArmjanGrammar>},
+
+    {"ARAB", make<ArabGrammar>},          {"ar", make<ArabGrammar>},
+};
+
+}  // namespace
+
+boost::shared_ptr<IGrammar> makeGrammar(const std::string& tag, unsigned char transliterated,
+                                        std::string& error) {
+  for (const TagRow& row : kTags) {
+    if (tag == row.tag) return boost::shared_ptr<IGrammar>(row.maker(transliterated));
+  }
+  error = " language tag incorrect";
+  return boost::shared_ptr<IGrammar>(new EnglishGrammar);
+}
+
+}  // namespace vela

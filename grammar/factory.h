@@ -1,0 +1,18 @@
+// The only place where language tags are known.
+#pragma once
+
+#include <boost/shared_ptr.hpp>
+#include <string>
+
+#include "grammar/igrammar.h"
+
+namespace vela {
+
+// The grammar for `tag` (exact, case-sensitive). `transliterated` matters only
+// for the Russian tags: 0 gives Cyrillic prompt names, any other value Latin
+// ones. An unknown tag gets the English grammar and " language tag incorrect"
+// in `error`; a known tag leaves `error` alone. Never returns an empty pointer.
+boost::shared_ptr<IGrammar> makeGrammar(const std::string& tag, unsigned char transliterated,
+                                        std::string& error);
+
+}  // namespace vela

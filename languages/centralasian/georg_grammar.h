@@ -1,0 +1,12 @@
+// Georgian (vigesimal numbers).
+#pragma once
+
+#include "grammar/grammar_base.h"
+
+namespace vela {
+
+// Its words and readings are not built yet: every operation keeps the
+// GrammarBase default, and no unit word is known.
+class GeorgGrammar final : public GrammarBase<GeorgGrammar> {};
+
+}  // namespace vela

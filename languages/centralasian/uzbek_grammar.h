@@ -1,0 +1,12 @@
+// Uzbek.
+#pragma once
+
+#include "grammar/grammar_base.h"
+
+namespace vela {
+
+// Its words and readings are not built yet: every operation keeps the
+// GrammarBase default, and no unit word is known.
+class UzbekGrammar final : public GrammarBase<UzbekGrammar> {};
+
+}  // namespace vela

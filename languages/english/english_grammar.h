@@ -1,0 +1,12 @@
+// English; also the grammar for every unknown language tag.
+#pragma once
+
+#include "grammar/grammar_base.h"
+
+namespace vela {
+
+// Its words and readings are not built yet: every operation keeps the
+// GrammarBase default, and no unit word is known.
+class EnglishGrammar final : public GrammarBase<EnglishGrammar> {};
+
+}  // namespace vela

@@ -1,0 +1,12 @@
+// Romanian, also used for Moldova.
+#pragma once
+
+#include "grammar/grammar_base.h"
+
+namespace vela {
+
+// Its words and readings are not built yet: every operation keeps the
+// GrammarBase default, and no unit word is known.
+class RomanGrammar final : public GrammarBase<RomanGrammar> {};
+
+}  // namespace vela

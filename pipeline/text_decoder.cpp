@@ -1,0 +1,74 @@
+#include "pipeline/text_decoder.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <utility>
+
+#include "analysis/rules.h"
+#include "grammar/factory.h"
+
+namespace vela {
+
+TextDecoder::TextDecoder(const std::string& tag, const std::string& requestText, unsigned char mode)
+    : languageTag(tag), text(requestText) {
+  output.reserve(16);
+  grammar = makeGrammar(languageTag, mode, errorText);
+  failed = errorText.empty() ? 0 : 1;
+  trimInput(text);
+}
+
+TextDecoder::TextDecoder(boost::shared_ptr<IGrammar> injected, const std::string& requestText)
+    : grammar(std::move(injected)), text(requestText) {
+  output.reserve(16);
+  trimInput(text);
+}
+
+int trimInput(std::string& s) {
+  if (s.size() > 512) return -1;
+  if (s.empty()) return -2;
+  const std::size_t first = s.find_first_not_of(' ');
+  if (first == std::string::npos) {
+    s.clear();
+    return 1;
+  }
+  const std::size_t last = s.find_last_not_of(' ');
+  s = s.substr(first, last - first + 1);
+  return 1;
+}
+
+int collapseSpaces(std::string& s) {
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < s.size(); ++i) {
+    if (s[i] == ' ' && kept > 0 && s[kept - 1] == ' ') continue;
+    s[kept++] = s[i];
+  }
+  s.resize(kept);
+  return 1;
+}
+
+namespace {
+
+// A malloc'ed, zero-terminated copy of `bytes`, or null.
+char* copyToMallocBuffer(const char* bytes, std::size_t length) {
+  auto* buffer = static_cast<char*>(std::malloc(length + 1));
+  if (buffer == nullptr) return nullptr;
+  std::memcpy(buffer, bytes, length);
+  buffer[length] = '\0';
+  return buffer;
+}
+
+}  // namespace
+
+int decodeText(const char* languageTag, const char* text, char** out, unsigned char mode) {
+  if (out == nullptr) return -1;
+  *out = nullptr;
+  const std::string callerText = text != nullptr ? text : "";
+  TextDecoder decoder(languageTag != nullptr ? languageTag : "", callerText, mode);
+  runRules(decoder);
+  // Nothing spoken: the caller gets its own text back, untrimmed.
+  const std::string& result = decoder.output.empty() ? callerText : decoder.output;
+  *out = copyToMallocBuffer(result.data(), result.size());
+  return *out == nullptr ? -2 : 0;
+}
+
+}  // namespace vela
