@@ -34,8 +34,10 @@ constexpr const char* kMarkedDayMonth = VELA_DAY "\\.([1][0-2]|[0][0-9]|[1-9])\\
 // Order is meaning: the first rule that takes the whole text speaks it.
 const DecodeRule decodeRules[kDecodeRuleCount] = {
     // 1, 2: negative amount (integer part required / fraction required)
-    {compile("[-]{1}([[:digit:]]+)[.|,]{0,1}([[:digit:]]*)([а-яА-Яa-zA-Z]+)"_cp), &TextDecoder::onNegativeAmount},
-    {compile("[-]{1}([[:digit:]]*)[.|,]{1}([[:digit:]]+)([а-яА-Яa-zA-Z]+)"_cp), &TextDecoder::onNegativeAmount},
+    {compile("[-]{1}([[:digit:]]+)[.|,]{0,1}([[:digit:]]*)([а-яА-Яa-zA-Z]+)"_cp),
+     &TextDecoder::onNegativeAmount},
+    {compile("[-]{1}([[:digit:]]*)[.|,]{1}([[:digit:]]+)([а-яА-Яa-zA-Z]+)"_cp),
+     &TextDecoder::onNegativeAmount},
     // 3, 4: amount with a unit word (integer part required / fraction required)
     {compile("([[:digit:]]+)[.|,]{0,1}([[:digit:]]*)([а-яА-Яa-zA-Z]+)"_cp), &TextDecoder::onAmount},
     {compile("([[:digit:]]*)[.|,]{1}([[:digit:]]+)([а-яА-Яa-zA-Z]+)"_cp), &TextDecoder::onAmount},
@@ -65,8 +67,7 @@ const DecodeRule decodeRules[kDecodeRuleCount] = {
 
 namespace {
 
-const auto kSearchFlags =
-    boost::match_default | boost::match_not_dot_newline | boost::match_not_dot_null;
+const auto kSearchFlags = boost::match_default | boost::match_not_dot_newline | boost::match_not_dot_null;
 
 // A handler's output never matches its own rule again in practice; the bound
 // only keeps a pathological grammar from looping forever.

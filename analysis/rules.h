@@ -13,7 +13,7 @@ namespace vela {
 class TextDecoder;
 
 struct DecodeRule {
-  boost::regex pattern;                          // matched against the whole text
+  boost::regex pattern;                         // matched against the whole text
   boost::function<bool(TextDecoder&)> handler;  // one of TextDecoder's on... handlers
 };
 

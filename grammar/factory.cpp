@@ -35,40 +35,58 @@ struct TagRow {
 // Tried in this order; the first exact match decides. The odd spellings are
 // tags in their own right, and "GEORGIA" is listed twice on purpose.
 constexpr TagRow kTags[] = {
-    {"ENGLISH", make<EnglishGrammar>},    {"eng", make<EnglishGrammar>},
+    {"ENGLISH", make<EnglishGrammar>},
+    {"eng", make<EnglishGrammar>},
     {"en", make<EnglishGrammar>},
 
-    {"RUSSIAN", makeRussian},             {"rus", makeRussian},
+    {"RUSSIAN", makeRussian},
+    {"rus", makeRussian},
     {"ru", makeRussian},
 
-    {"ROMANIAN", make<RomanGrammar>},     {"mol", make<RomanGrammar>},
-    {"mo", make<RomanGrammar>},           {"rom", make<RomanGrammar>},
-    {"ro", make<RomanGrammar>},           {"rum", make<RomanGrammar>},
+    {"ROMANIAN", make<RomanGrammar>},
+    {"mol", make<RomanGrammar>},
+    {"mo", make<RomanGrammar>},
+    {"rom", make<RomanGrammar>},
+    {"ro", make<RomanGrammar>},
+    {"rum", make<RomanGrammar>},
     {"MOLDOVA", make<RomanGrammar>},
 
-    {"UKRANIAN", make<UkranianGrammar>},  {"UKRAINIAN", make<UkranianGrammar>},
-    {"ukr", make<UkranianGrammar>},       {"uk", make<UkranianGrammar>},
-    {"UKRAINIEN", make<UkranianGrammar>}, {"UKRAINE", make<UkranianGrammar>},
+    {"UKRANIAN", make<UkranianGrammar>},
+    {"UKRAINIAN", make<UkranianGrammar>},
+    {"ukr", make<UkranianGrammar>},
+    {"uk", make<UkranianGrammar>},
+    {"UKRAINIEN", make<UkranianGrammar>},
+    {"UKRAINE", make<UkranianGrammar>},
 
-    {"UZBEK", make<UzbekGrammar>},        {"uzb", make<UzbekGrammar>},
-    {"uz", make<UzbekGrammar>},           {"OUSZBEK", make<UzbekGrammar>},
+    {"UZBEK", make<UzbekGrammar>},
+    {"uzb", make<UzbekGrammar>},
+    {"uz", make<UzbekGrammar>},
+    {"OUSZBEK", make<UzbekGrammar>},
     {"UZBEKISTAN", make<UzbekGrammar>},
 
-    {"TADJIK", make<TadjikGrammar>},      {"tgk", make<TadjikGrammar>},
-    {"tg", make<TadjikGrammar>},          {"TAJIK", make<TadjikGrammar>},
+    {"TADJIK", make<TadjikGrammar>},
+    {"tgk", make<TadjikGrammar>},
+    {"tg", make<TadjikGrammar>},
+    {"TAJIK", make<TadjikGrammar>},
     {"TAJIKISTAN", make<TadjikGrammar>},
 
-    {"KAZAH", make<KazahGrammar>},        {"kaz", make<KazahGrammar>},
-    {"kk", make<KazahGrammar>},           {"KAZAKH", make<KazahGrammar>},
+    {"KAZAH", make<KazahGrammar>},
+    {"kaz", make<KazahGrammar>},
+    {"kk", make<KazahGrammar>},
+    {"KAZAKH", make<KazahGrammar>},
     {"KAZAKHSTAN", make<KazahGrammar>},
 
-    {"GEORGIA", make<GeorgGrammar>},      {"geo", make<GeorgGrammar>},
-    {"ka", make<GeorgGrammar>},           {"GEORGIAN", make<GeorgGrammar>},
+    {"GEORGIA", make<GeorgGrammar>},
+    {"geo", make<GeorgGrammar>},
+    {"ka", make<GeorgGrammar>},
+    {"GEORGIAN", make<GeorgGrammar>},
     {"GEORGIA", make<GeorgGrammar>},
 
-    {"ARMJAN", make<ArmjanGrammar>},      {"hy", make<ArmjanGrammar>},
+    {"ARMJAN", make<ArmjanGrammar>},
+    {"hy", make<ArmjanGrammar>},
 
-    {"ARAB", make<ArabGrammar>},          {"ar", make<ArabGrammar>},
+    {"ARAB", make<ArabGrammar>},
+    {"ar", make<ArabGrammar>},
 };
 
 }  // namespace

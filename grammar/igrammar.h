@@ -19,7 +19,8 @@ class IGrammar {
  public:
   virtual int speakAmount(const DigitList& intList, const DigitList& fracList, const std::string& intDigits,
                           const std::string& fracDigits, const std::string& unit, std::string& out) = 0;
-  virtual bool speakSpecialAmount(const std::string& intDigits, const std::string& unit, std::string& out) = 0;
+  virtual bool speakSpecialAmount(const std::string& intDigits, const std::string& unit,
+                                  std::string& out) = 0;
   // century holds the first two year digits, or "I" for a date marked "(I)".
   virtual int speakDate(const std::string& day, const std::string& month, const std::string& year,
                         const std::string& century, const std::string& yearTail, std::string& out) = 0;

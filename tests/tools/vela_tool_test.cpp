@@ -1,0 +1,79 @@
+// The `vela` command-line tool, run as a user would run it.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace {
+
+struct ToolResult {
+  std::string out;
+  std::string err;
+  int status = -1;
+};
+
+std::string readFile(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+// Runs `vela ARGS` with `input` on standard input.
+ToolResult runTool(const std::string& args, const std::string& input = "") {
+  const std::string dir = ::testing::TempDir();
+  const std::string inPath = dir + "vela_in.txt", outPath = dir + "vela_out.txt",
+                    errPath = dir + "vela_err.txt";
+  std::ofstream(inPath, std::ios::binary) << input;
+  const std::string cmd =
+      std::string(VELA_TOOL_PATH) + " " + args + " <" + inPath + " >" + outPath + " 2>" + errPath;
+  const int raw = std::system(cmd.c_str());
+  return {readFile(outPath), readFile(errPath), WIFEXITED(raw) ? WEXITSTATUS(raw) : -1};
+}
+
+struct ToolCase {
+  const char* args;
+  const char* input;
+  const char* out;
+  int status;
+  const char* errContains;  // "" when standard error must stay empty
+};
+
+const ToolCase kCases[] = {
+    {"-l en '  a.wav   b.wav '", "", "a.wav b.wav\n", 0, ""},
+    {"-l en x.wav y.wav", "", "x.wav\ny.wav\n", 0, ""},
+    {"-l en", "a.wav\r\n\nb.wav\n", "a.wav\n\nb.wav\n", 0, ""},
+    {"-l en -- -5", "", "-5\n", 0, ""},
+    {"-l en -5", "", "-5\n", 0, ""},
+    {"-l xx a.wav", "", "a.wav\n", 1, "unknown language tag"},
+    {"-l en '漢.wav' b.wav", "", "\nb.wav\n", 1, "Windows-1251"},
+    {"-l en 'ёж.wav'", "", "ёж.wav\n", 0, ""},
+    {"--raw -l en \"$(printf '\\270.wav')\"", "", "\xB8.wav\n", 0, ""},
+    {"--bogus", "", "", 2, "usage"},
+};
+
+TEST(VelaToolTest, Table) {
+  for (const auto& c : kCases) {
+    const ToolResult r = runTool(c.args, c.input);
+    EXPECT_EQ(r.out, c.out) << c.args;
+    EXPECT_EQ(r.status, c.status) << c.args;
+    if (*c.errContains == '\0') {
+      EXPECT_EQ(r.err, "") << c.args;
+    } else {
+      EXPECT_NE(r.err.find(c.errContains), std::string::npos) << c.args << ": " << r.err;
+    }
+  }
+}
+
+TEST(VelaToolTest, HelpExplainsUsage) {
+  const ToolResult r = runTool("--help");
+  EXPECT_EQ(r.status, 0);
+  for (const char* word : {"-l TAG", "-t", "--raw", "standard input", "example"})
+    EXPECT_NE(r.out.find(word), std::string::npos) << word;
+}
+
+}  // namespace
