@@ -51,7 +51,8 @@ struct Options {
 // counterpart in the target encoding or the input is malformed.
 std::optional<std::string> convert(const std::string& text, const char* to, const char* from) {
   iconv_t cd = iconv_open(to, from);
-  if (cd == reinterpret_cast<iconv_t>(-1)) return std::nullopt;
+  if (cd == reinterpret_cast<iconv_t>(-1))
+    return std::nullopt;  // NOLINT(performance-no-int-to-ptr): iconv's error value
   std::string in = text;
   std::string out(text.size() * 4 + 4, '\0');
   char* inPtr = in.data();
