@@ -1,6 +1,7 @@
 #include "analysis/rules.h"
 
 #include <locale>
+#include <stdexcept>
 
 #include "grammar/cp1251.h"
 #include "pipeline/text_decoder.h"
@@ -69,6 +70,18 @@ namespace {
 
 const auto kSearchFlags = boost::match_default | boost::match_not_dot_newline | boost::match_not_dot_null;
 
+// Whether the rule's leftmost match in `work` is the whole of it. A text the
+// engine gives up on (a very long run of digits makes some patterns backtrack
+// past its bounds) is not a token of that rule.
+bool takesWholeText(const DecodeRule& rule, const std::string& work, boost::smatch& found) {
+  try {
+    if (!boost::regex_search(work, found, rule.pattern, kSearchFlags)) return false;
+  } catch (const std::runtime_error&) {
+    return false;
+  }
+  return found.length(0) == static_cast<boost::smatch::difference_type>(work.size());
+}
+
 // A handler's output never matches its own rule again in practice; the bound
 // only keeps a pathological grammar from looping forever.
 constexpr int kMaxPassesPerRule = 16;
@@ -83,11 +96,10 @@ void runRules(TextDecoder& decoder) {
   }
   for (const DecodeRule& rule : decodeRules) {
     for (int pass = 0; pass < kMaxPassesPerRule; ++pass) {
-      boost::smatch found;
-      if (!boost::regex_search(work, found, rule.pattern, kSearchFlags)) break;
       // Only a token that is the whole text counts; a leftmost match covering
       // part of it abandons the rule.
-      if (found.length(0) != static_cast<boost::smatch::difference_type>(work.size())) break;
+      boost::smatch found;
+      if (!takesWholeText(rule, work, found)) break;
       decoder.match = found;
       decoder.output.clear();
       rule.handler(decoder);

@@ -145,3 +145,26 @@ TEST(SplitDigitGroupsTest, Table) {
 
 }  // namespace
 }  // namespace vela
+
+namespace vela {
+namespace {
+
+// Very long runs of digits make some patterns backtrack past the engine's
+// bounds: those rules then do not apply, and the text still finds its rule.
+TEST(RulesTest, LongDigitRunsStillReachTheirRule) {
+  const std::string digits(20000, '7');
+  CallLog number;
+  EXPECT_EQ(run(digits, number), " number");
+  EXPECT_EQ(number.joined(), "number(" + digits + ")");
+
+  CallLog amount;
+  EXPECT_EQ(run(digits + "rub", amount), " money");
+  EXPECT_EQ(amount.joined(), "money(||" + digits + "||rub)");
+
+  CallLog none;
+  EXPECT_EQ(run(digits + "-rub", none), digits + "-rub");
+  EXPECT_EQ(none.joined(), "");
+}
+
+}  // namespace
+}  // namespace vela
