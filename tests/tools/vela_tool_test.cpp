@@ -1,6 +1,7 @@
 // The `vela` command-line tool, run as a user would run it.
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -32,7 +33,9 @@ ToolResult runTool(const std::string& args, const std::string& input = "") {
   const std::string cmd =
       std::string(VELA_TOOL_PATH) + " " + args + " <" + inPath + " >" + outPath + " 2>" + errPath;
   const int raw = std::system(cmd.c_str());
-  return {readFile(outPath), readFile(errPath), WIFEXITED(raw) ? WEXITSTATUS(raw) : -1};
+  ToolResult result{readFile(outPath), readFile(errPath), WIFEXITED(raw) ? WEXITSTATUS(raw) : -1};
+  for (const auto& path : {inPath, outPath, errPath}) std::remove(path.c_str());
+  return result;
 }
 
 struct ToolCase {
