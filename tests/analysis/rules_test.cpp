@@ -168,3 +168,41 @@ TEST(RulesTest, LongDigitRunsStillReachTheirRule) {
 
 }  // namespace
 }  // namespace vela
+
+namespace vela {
+namespace {
+
+// The patterns byte for byte: the Cyrillic ranges must be Windows-1251
+// (а-я = E0-FF, А-Я = C0-DF), whatever the source file's encoding.
+const char* const kPatterns[kDecodeRuleCount] = {
+    "[-]{1}([[:digit:]]+)[.|,]{0,1}([[:digit:]]*)([\xE0-\xFF\xC0-\xDF"
+    "a-zA-Z]+)",
+    "[-]{1}([[:digit:]]*)[.|,]{1}([[:digit:]]+)([\xE0-\xFF\xC0-\xDF"
+    "a-zA-Z]+)",
+    "([[:digit:]]+)[.|,]{0,1}([[:digit:]]*)([\xE0-\xFF\xC0-\xDF"
+    "a-zA-Z]+)",
+    "([[:digit:]]*)[.|,]{1}([[:digit:]]+)([\xE0-\xFF\xC0-\xDF"
+    "a-zA-Z]+)",
+    "([1-9]|[0][1-9]|[1][0-9]|[2][0-9]|[3][0-1])\\.([1-9]|[1][0-2]|[0][0-9])\\.(([1][9]|[2][0])([0-9][0-9]))",
+    "([1-9]|[0][1-9]|[1][0-9]|[2][0-9]|[3][0-1])\\.([1-9]|[1][0-2]|[0][0-9])\\.(([1][9]|[2][0])([0-9][0-9]))"
+    "\\(I\\)",
+    "([1-9]|[0][1-9]|[1][0-9]|[2][0-9]|[3][0-1])\\.([1][0-2]|[0][0-9]|[1-9])",
+    "([1-9]|[0][1-9]|[1][0-9]|[2][0-9]|[3][0-1])\\.([1][0-2]|[0][0-9]|[1-9])\\(I\\)",
+    "[[:digit:]]+(-[[:digit:]]+)+",
+    "\"([[:digit:]#*]+)\"",
+    "\"([[:digit:]#*]+)\"",
+    "([[:digit:]]{1,2}):([[:digit:]]{2}):([[:digit:]]{2})",
+    "\"([[:digit:]]+):([[:digit:]]{2})\"",
+    "\"([[:digit:]]+):([[:digit:]]{2}):([[:digit:]]{2})\"",
+    "([[:digit:]]{1,2}):([[:digit:]]{2})",
+    "([[:digit:]]+)",
+    "([[:digit:]]+)([.|,][[:digit:]]+)",
+    "([[:print:]])",
+};
+
+TEST(RulesTest, PatternsAreExact) {
+  for (int i = 0; i < kDecodeRuleCount; ++i) EXPECT_EQ(decodeRules[i].pattern.str(), kPatterns[i]) << i + 1;
+}
+
+}  // namespace
+}  // namespace vela
