@@ -26,10 +26,10 @@ const UnitRecord* findUnit(const std::string& unit) {
   return nullptr;
 }
 
-// The first currency whose major unit is `record`, or null.
+// The first currency whose major unit is `record`, or null (also for a null record).
 const CurrencyPair* findCurrency(const UnitRecord* record) {
   for (const CurrencyPair& pair : english::kCurrencies)
-    if (record != nullptr && pair.major == record) return &pair;
+    if (pair.major == record) return &pair;
   return nullptr;
 }
 
