@@ -1,0 +1,228 @@
+#include "languages/english/english_grammar.h"
+
+#include <string_view>
+
+#include "grammar/helpers.h"
+#include "languages/english/english_cardinal.h"
+#include "languages/english/english_words.h"
+
+namespace vela {
+
+using english::buildCardinal;
+using english::CardinalBuilder;
+using english::CurrencyPair;
+using english::emitPhrases;
+using english::GroupPhrase;
+using english::joinWords;
+using english::UnitRecord;
+using english::WordList;
+
+namespace {
+
+// The first record whose code matches the suffix (case-insensitively), or null.
+const UnitRecord* findUnit(const std::string& unit) {
+  for (const UnitRecord& record : english::kUnits)
+    if (matchesWord(unit, record.code)) return &record;
+  return nullptr;
+}
+
+// The first currency whose major unit is `record`, or null (also for a null record).
+const CurrencyPair* findCurrency(const UnitRecord* record) {
+  for (const CurrencyPair& pair : english::kCurrencies)
+    if (pair.major == record) return &pair;
+  return nullptr;
+}
+
+// A decimal text as digits, least significant first: "05" gives 5, 0.
+DigitList textToDigits(const std::string& text) {
+  DigitList digits;
+  for (auto c = text.rbegin(); c != text.rend(); ++c) digits.emplace_back(1, *c);
+  return digits;
+}
+
+// Puts `record` after the number. Zero has no phrases: it is said as "zero"
+// with the plural, appended to `out` straight away ("zero hours").
+void attachRecord(CardinalBuilder& number, const UnitRecord& record, std::string& out) {
+  if (number.phrases.empty()) {
+    out += "zero ";
+    out += record.plural;
+    return;
+  }
+  number.phrases.back().record = &record;
+}
+
+// The minor part of money: the first two fraction digits, cut not rounded, a
+// missing second digit counting as zero (.5 is fifty, .999 is ninety nine).
+DigitList minorDigits(const DigitList& fracList) {
+  if (fracList.empty()) return {};
+  const std::string& first = fracList.back();  // fracList is least significant first
+  const std::string second = fracList.size() >= 2 ? fracList[fracList.size() - 2] : "";
+  return {second, first};
+}
+
+// 0-11 are AM, 12-23 PM with 12 taken off: noon is said as zero hours PM.
+std::string toTwelveHour(const std::string& hours, bool& pm) {
+  int h = readInt(hours);
+  pm = h > 11;
+  if (pm) h -= 12;
+  return std::to_string(h);
+}
+
+// "<hours> hours and <minutes> minutes", each a count through the amount
+// dispatcher. The count after " and " is joined with its own space, so the
+// text holds a double space there ("five hours and  ten minutes"); consumers
+// split at spaces.
+void speakHoursAndMinutes(EnglishGrammar& grammar, const std::string& hours, const std::string& minutes,
+                          std::string& out) {
+  grammar.speakAmount(textToDigits(hours), {}, "", "", "h", out);
+  out += " and ";
+  grammar.speakAmount(textToDigits(minutes), {}, "", "", "min", out);
+}
+
+}  // namespace
+
+bool EnglishGrammar::speakSpecialAmount(const std::string& intDigits, const std::string& unit,
+                                        std::string& out) {
+  if (intDigits != "0") return false;
+  if (unit == "msg" || unit == "mes") {
+    out = "no messages";
+    return true;
+  }
+  if (unit == "num") {
+    out = "no numbers";
+    return true;
+  }
+  return false;
+}
+
+bool EnglishGrammar::isUnit(const std::string& unit) { return findUnit(unit) != nullptr; }
+
+bool EnglishGrammar::isCurrency(const std::string& unit) { return findCurrency(findUnit(unit)) != nullptr; }
+
+bool EnglishGrammar::allowsFraction(const std::string&) { return false; }
+
+void EnglishGrammar::speakCount(const DigitList& intList, const std::string&, const std::string& unit,
+                                std::string& out) {
+  const UnitRecord* record = findUnit(unit);
+  if (record == nullptr) return;
+  CardinalBuilder number = buildCardinal(intList);
+  attachRecord(number, *record, out);
+  WordList words;
+  emitPhrases(number, words);
+  joinWords(words, out);
+}
+
+// "one dollar and five cents"; a zero major part is said "zero dollars" and
+// takes no "and" before the cents.
+void EnglishGrammar::speakMoney(const DigitList& intList, const DigitList& fracList, const std::string&,
+                                const std::string&, const std::string& unit, std::string& out) {
+  const CurrencyPair* currency = findCurrency(findUnit(unit));
+  if (currency == nullptr) return;
+  CardinalBuilder major = buildCardinal(intList);
+  attachRecord(major, *currency->major, out);
+  CardinalBuilder minor = buildCardinal(minorDigits(fracList));
+  if (!minor.phrases.empty()) {
+    minor.phrases.back().record = currency->minor;
+    if (!major.phrases.empty()) major.phrases.push_back(GroupPhrase{.record = &english::kConjunction});
+  }
+  WordList words;
+  emitPhrases(major, words);
+  emitPhrases(minor, words);
+  joinWords(words, out);
+}
+
+void EnglishGrammar::speakMinorUnits(const DigitList&, const DigitList&, const std::string&,
+                                     const std::string&, const std::string&, std::string&) {}
+
+void EnglishGrammar::speakDecimal(const DigitList&, const DigitList&, const std::string&, const std::string&,
+                                  const std::string&, std::string&) {}
+
+// "the fifth of may two thousand and five". Only the centuries 19 and 20 have
+// a word; the last two year digits follow as a number after "and". A month
+// outside 1-12 (the date patterns let "00" through) is left out with its "of".
+int EnglishGrammar::speakDate(const std::string& day, const std::string& month, const std::string&,
+                              const std::string& century, const std::string& yearTail, std::string& out) {
+  WordList words{"the", english::dayOrdinal(day)};
+  const int monthNumber = readInt(month);
+  if (monthNumber >= 1 && monthNumber <= 12) {
+    words.emplace_back("of");
+    words.emplace_back(english::kMonths[monthNumber - 1]);
+  }
+  if (century == "19") words.emplace_back("nineteen hundred");
+  if (century == "20") words.emplace_back("two thousand");
+  WordList yearWords;
+  const CardinalBuilder rest = buildCardinal(textToDigits(yearTail));
+  if (!rest.phrases.empty()) {
+    words.emplace_back(english::kConjunction.singular);
+    emitPhrases(rest, yearWords);
+  }
+  joinWords(words, out);
+  joinWords(yearWords, out);
+  return 1;
+}
+
+// Bare numbers are read digit by digit, like digit strings.
+void EnglishGrammar::speakNumber(const DigitList& tokenList, std::string& out) {
+  speakDigitString(tokenList, out);
+}
+
+// Every character gives a word and a space (an empty word for anything but a
+// digit). Zero is "nought", or "zero" in a string that opens with a quote.
+void EnglishGrammar::speakDigitString(const DigitList& tokenList, std::string& out) {
+  std::string text;
+  for (const std::string& piece : tokenList) text += piece;
+  const char* zeroWord = (!text.empty() && text[0] == '"') ? "zero" : "nought";
+  for (char c : text) {
+    if (c == '0') out += zeroWord;
+    if (c >= '1' && c <= '9') out += english::kDigitWords[c - '0'].unit;
+    out += ' ';
+  }
+}
+
+// Keypad keys: "ought" for 0, "sharp", "star"; any other character says nothing.
+void EnglishGrammar::speakDialString(const std::string& keys, std::string& out) {
+  const std::string_view dialKeys = english::kDialKeys;
+  WordList words;
+  for (char key : keys) {
+    const std::size_t at = dialKeys.find(key);
+    if (at != std::string_view::npos) words.emplace_back(english::kDialWords[at]);
+  }
+  joinWords(words, out);
+}
+
+void EnglishGrammar::speakCharacter(const std::string& character, std::string& out) {
+  if (character.empty()) return;
+  if (character[0] >= '0' && character[0] <= '9') {
+    out += english::kDigitWords[character[0] - '0'].unit;
+    return;
+  }
+  for (const english::SymbolRow& row : english::kSymbols) {
+    if (character == row.symbol) {
+      out += row.word;
+      return;
+    }
+  }
+}
+
+// "two hours and five minutes PM" for 14:05.
+void EnglishGrammar::speakClockTime(const std::string& hours, const std::string& minutes, std::string& out) {
+  bool pm = false;
+  speakHoursAndMinutes(*this, toTwelveHour(hours, pm), minutes, out);
+  out += pm ? " PM" : " AM";
+}
+
+void EnglishGrammar::speakClockTimeWithSeconds(const std::string& hours, const std::string& minutes,
+                                               const std::string& seconds, std::string& out) {
+  bool pm = false;
+  speakHoursAndMinutes(*this, toTwelveHour(hours, pm), minutes, out);
+  out += " and ";
+  speakAmount(textToDigits(seconds), {}, "", "", "sec", out);
+  out += pm ? " PM" : " AM";
+}
+
+// A span of time: no 12-hour conversion, no AM/PM.
+void EnglishGrammar::speakDuration(const std::string& hours, const std::string& minutes, std::string& out) {
+  speakHoursAndMinutes(*this, hours, minutes, out);
+}
+
+}  // namespace vela
