@@ -68,7 +68,11 @@ const DecodeRule decodeRules[kDecodeRuleCount] = {
 
 namespace {
 
-const auto kSearchFlags = boost::match_default | boost::match_not_dot_newline | boost::match_not_dot_null;
+// A rule applies only when its leftmost match is the whole text, so only a
+// match starting at the first byte can count: the search is anchored there
+// (match_continuous) instead of trying, and discarding, every later start.
+const auto kSearchFlags =
+    boost::match_default | boost::match_not_dot_newline | boost::match_not_dot_null | boost::match_continuous;
 
 // Whether the rule's leftmost match in `work` is the whole of it. A text the
 // engine gives up on (a very long run of digits makes some patterns backtrack
