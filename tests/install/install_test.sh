@@ -5,7 +5,7 @@
 # runs the JVM tests against the installed jar and library.
 # Usage: install_test.sh BUILD_DIR CONSUMER_DIR LIBDIR CC CXX [EXTRA_FLAGS] [JVM_TEST_JAR]
 set -euo pipefail
-build=$1 consumers=$2 libdir=$3 cc=$4 cxx=$5 flags=${6:-} jvm_tests=${7:-}
+build=$(realpath "$1") consumers=$(realpath "$2") libdir=$3 cc=$4 cxx=$5 flags=${6:-} jvm_tests=${7:-}
 work=$build/install-test
 prefix=$work/prefix
 rm -rf "$work"
