@@ -164,17 +164,6 @@ TEST(JniEntry, LanguageOf32BytesOrMoreIsEmpty) {
   }
 }
 
-TEST(JniEntry, ModeMattersOnlyForRussian) {
-  FakeJvm jvm;
-  for (const char* tag : {"en", "ENGLISH", "ro", "uk", "uz", "tg", "kk", "ka", "hy", "ar", "xx"}) {
-    for (const std::string text : {"21", "21руб"_cp, "3min", "1.05.2015", "7:05", "\"12#\""}) {
-      const std::string cyrillic = jvm.decode(text, tag, false);
-      EXPECT_FALSE(cyrillic.empty()) << tag << " " << text;
-      EXPECT_EQ(jvm.decode(text, tag, true), cyrillic) << tag << " " << text;
-    }
-  }
-}
-
 TEST(JniEntry, RussianModesGiveCyrillicAndLatinNames) {
   FakeJvm jvm;
   const std::string cyrillic = jvm.decode("21руб"_cp, "ru", false);
