@@ -1,0 +1,51 @@
+# `cmake --install`: the library, its header, the `vela` tool, the jar (see
+# java/), a CMake package giving vela::vela, and vela.pc for pkg-config.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(VELA_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/vela)
+set(VELA_INSTALL_JAVADIR ${CMAKE_INSTALL_DATADIR}/java)
+
+install(TARGETS vela EXPORT velaTargets
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(TARGETS vela_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/include/vela/vela.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vela)
+
+install(EXPORT velaTargets NAMESPACE vela:: DESTINATION ${VELA_INSTALL_CMAKEDIR})
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/velaConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/velaConfig.cmake
+  INSTALL_DESTINATION ${VELA_INSTALL_CMAKEDIR}
+  PATH_VARS CMAKE_INSTALL_INCLUDEDIR)
+# Before 1.0 a minor release may change the interface.
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/velaConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/velaConfig.cmake ${PROJECT_BINARY_DIR}/velaConfigVersion.cmake
+  DESTINATION ${VELA_INSTALL_CMAKEDIR})
+
+# vela.pc finds its prefix from its own place, so an installed tree can move
+# (and `cmake --install --prefix` works whatever prefix was configured).
+file(RELATIVE_PATH VELA_PC_RELATIVE_PREFIX /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+string(REGEX REPLACE "/$" "" VELA_PC_RELATIVE_PREFIX "${VELA_PC_RELATIVE_PREFIX}")
+configure_file(${CMAKE_CURRENT_LIST_DIR}/vela.pc.in ${PROJECT_BINARY_DIR}/vela.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/vela.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# The install test: installs this build into a prefix under the build tree and
+# builds and runs a C consumer (pkg-config) and a CMake consumer (find_package).
+if(VELA_BUILD_TESTS)
+  set(_vela_consumer_flags "")
+  if(VELA_SANITIZE)
+    # The installed library needs the sanitizer runtimes in its consumers too.
+    set(_vela_consumer_flags "-fsanitize=address,undefined")
+  endif()
+  set(_vela_jvm_check "")
+  if(TARGET vela_jvm_tests)
+    get_target_property(_vela_jvm_check vela_jvm_tests JAR_FILE)
+  endif()
+  add_test(NAME install.consumers
+    COMMAND bash ${PROJECT_SOURCE_DIR}/tests/install/install_test.sh
+      ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR}/tests/install ${CMAKE_INSTALL_LIBDIR}
+      ${CMAKE_C_COMPILER} ${CMAKE_CXX_COMPILER} "${_vela_consumer_flags}" "${_vela_jvm_check}")
+  set_tests_properties(install.consumers PROPERTIES TIMEOUT 120)
+endif()

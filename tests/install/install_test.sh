@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# Installs a build tree into a fresh prefix under it, checks the layout, and
+# builds and runs two hosts against the installed tree only: a C program with
+# pkg-config, and a CMake project with find_package(vela). With a test jar, also
+# runs the JVM tests against the installed jar and library.
+# Usage: install_test.sh BUILD_DIR CONSUMER_DIR LIBDIR CC CXX [EXTRA_FLAGS] [JVM_TEST_JAR]
+set -euo pipefail
+build=$(realpath "$1") consumers=$(realpath "$2") libdir=$3 cc=$4 cxx=$5 flags=${6:-} jvm_tests=${7:-}
+work=$build/install-test
+prefix=$work/prefix
+rm -rf "$work"
+mkdir -p "$work"
+
+cmake --install "$build" --prefix "$prefix" >"$work/install.log"
+for f in "$libdir/libvela.so" include/vela/vela.h bin/vela share/java/vela.jar \
+  "$libdir/pkgconfig/vela.pc" "$libdir/cmake/vela/velaConfig.cmake"; do
+  [ -e "$prefix/$f" ] || { echo "FAILED: $f not installed"; exit 1; }
+done
+
+export LD_LIBRARY_PATH=$prefix/$libdir
+export PKG_CONFIG_PATH=$prefix/$libdir/pkgconfig
+[ "$(pkg-config --modversion vela)" != "" ]
+# shellcheck disable=SC2046,SC2086
+"$cc" $flags -std=c11 -Wall -Werror "$consumers/consumer.c" $(pkg-config --cflags --libs vela) \
+  -o "$work/c-consumer"
+"$work/c-consumer"
+
+cmake -S "$consumers/cmake_consumer" -B "$work/cmake-consumer" -G Ninja \
+  -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$cxx" \
+  -DCMAKE_CXX_FLAGS="$flags" -DCMAKE_EXE_LINKER_FLAGS="$flags" >"$work/cmake-consumer.log"
+cmake --build "$work/cmake-consumer" >>"$work/cmake-consumer.log"
+"$work/cmake-consumer/consumer"
+
+if [ -n "$jvm_tests" ]; then
+  java -Djava.library.path="$prefix/$libdir" -cp "$prefix/share/java/vela.jar:$jvm_tests" VelaJvmTest
+fi
+echo "install test ok"
