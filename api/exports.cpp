@@ -1,7 +1,7 @@
 // The library's C exports: thin shells around the request driver.
 #include <cctype>
 #include <cstdlib>
-#include <new>
+#include <exception>
 
 #include "analysis/rules.h"
 #include "pipeline/text_decoder.h"
@@ -10,7 +10,9 @@
 extern "C" VELA_API int decodeBuffer(const char* languageTag, const char* text, char** out) {
   try {
     return vela::decodeText(languageTag, text, out, 0);
-  } catch (const std::bad_alloc&) {
+  } catch (const std::exception&) {
+    // Nothing may unwind into a C host; what the string and vector types throw
+    // here is memory exhaustion (bad_alloc, length_error).
     if (out != nullptr) *out = nullptr;
     return -2;
   }
