@@ -166,6 +166,15 @@ TEST(RussianNumberCore, TableBytesAreWindows1251) {
   EXPECT_EQ(out, " \xEF\xFF\xF2\xFC \xF0\xF3\xE1\xEB\xE5\xE9");  // " пять рублей"
 }
 
+// Zero is never spoken by a group: a bare zero count says nothing, with a unit "ноль".
+TEST(RussianNumberCore, ZeroCount) {
+  std::string out;
+  RusGrammar().speakCount({}, "0", "", out);
+  EXPECT_EQ(out, "");
+  RusGrammar().speakCount({}, "0", "sec", out);
+  EXPECT_EQ(out, " ноль секунд"_cp);
+}
+
 TEST(RussianNumberCore, UnknownSuffixesAreReported) {
   std::string out;
   EXPECT_EQ(capturedStdout([&] { RusGrammar().speakCount({}, "5005", "xyz", out); }),
