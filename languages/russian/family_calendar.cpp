@@ -1,0 +1,109 @@
+// Dates, clock times and spans of time of the Russian family. A date or time
+// collects its words apart and appends them only when the whole of it is
+// valid: a rejected one leaves nothing in the output.
+#include <cstdio>
+
+#include "languages/russian/family_speaker.h"
+
+namespace vela {
+
+// "первого января две тысячи пятого года"; with the marker "(I)" the day is
+// nominative ("первое января"). Years 1000-2999 are spoken; a year below 1000
+// (or none) gives the day and month only.
+int FamilySpeaker::speakDate(const std::string& day, const std::string& month, const std::string& year,
+                             const std::string& caseMarker, std::string& out) const {
+  std::string words;
+  DigitGroup group;
+  getDigitGroup(day, &group, 0);
+  if (group.value > 31 || group.value < 0) {
+    std::printf(" incorrect day %d \r\n", group.value);
+    return 0;
+  }
+  if (lang_.hasDayCaseMarker && caseMarker == "I") {
+    speak3(group, kNeuter, 0, 1, words);
+  } else {
+    speak3(group, kMasculine, 1, 1, words);
+  }
+  getDigitGroup(month, &group, 0);
+  // Month 0 passes the date patterns but has no name: rejected like month 13.
+  if (group.value > 12 || group.value < 1 || static_cast<std::size_t>(group.value) >= lang_.months.size()) {
+    std::printf(" incorrect month %d \r\n", group.value);
+    return 0;
+  }
+  words += ' ';
+  words += lang_.months[group.value];
+  DigitGroup thousands;
+  getDigitGroup(year, &thousands, 3);
+  if (thousands.value == 0) {
+    out += words;
+    return 1;
+  }
+  if (thousands.value != 1 && thousands.value != 2) {
+    std::printf(" incorrect year %d \r\n", thousands.value);
+    return 0;
+  }
+  if (year == "2000") {
+    words += lang_.year2000;
+  } else {
+    // The space here and the one speak3 puts before its word leave two spaces
+    // after the thousand word; consumers split at spaces and drop the empty piece.
+    const UnitRow& thousandWords = lang_.units[lang_.thousandsRow];
+    speak3(thousands, kFeminine, 0, 0, words);
+    words += ' ';
+    words += thousands.value == 1 ? thousandWords.form1 : thousandWords.form2;
+    getDigitGroup(year, &group, 0);
+    words += ' ';
+    speak3(group, kMasculine, 1, 1, words);
+  }
+  words += lang_.yearWord;
+  out += words;
+  return 1;
+}
+
+void FamilySpeaker::speakTimePart(const DigitGroup& group, int gender, int row, std::string& words) const {
+  speak3(group, gender, 0, 0, words);
+  appendUnitForm(group, words, row, 2);
+}
+
+// "десять часов пять минут"; zero hours and minutes are spoken ("ноль часов
+// ноль минут"), zero seconds are not. The messages quote the hours text.
+void FamilySpeaker::speakClockTimeWithSeconds(const std::string& hours, const std::string& minutes,
+                                              const std::string& seconds, std::string& out) const {
+  std::string words;
+  DigitGroup group;
+  getDigitGroup(hours, &group, 0);
+  if (group.value > 24) {
+    std::printf("wrong time (hours) %s\r\n", hours.c_str());
+    return;
+  }
+  speakTimePart(group, lang_.hoursGender, lang_.hoursRow, words);
+  getDigitGroup(minutes, &group, 0);
+  if (group.value > 60) {
+    std::printf("wrong time (minutes) %s\r\n", hours.c_str());
+    return;
+  }
+  speakTimePart(group, kFeminine, lang_.minutesRow, words);
+  getDigitGroup(seconds, &group, 0);
+  if (!seconds.empty() && group.value != 0) {
+    if (group.value > 60) {
+      std::printf("wrong time (secundes) %s\r\n", hours.c_str());
+      return;
+    }
+    speakTimePart(group, kFeminine, lang_.secondsRow, words);
+  }
+  out += words;
+}
+
+void FamilySpeaker::speakClockTime(const std::string& hours, const std::string& minutes,
+                                   std::string& out) const {
+  speakClockTimeWithSeconds(hours, minutes, "0", out);
+}
+
+// A span of time counts like any unit: "1000 часов", "ноль часов".
+void FamilySpeaker::speakDuration(const std::string& hours, const std::string& minutes,
+                                  std::string& out) const {
+  speakCount(hours, "h", out);
+  speakCount(minutes, "min", out);
+}
+
+}  // namespace vela

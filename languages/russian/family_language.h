@@ -1,0 +1,113 @@
+// The Russian family (Russian, transliterated Russian, Ukrainian): three
+// genders, three plural forms after a number (1, 2-4, 5+) and ordinal cases.
+// One set of algorithms (FamilySpeaker) reads any of these languages; a
+// language is only its word tables and the few ways in which it differs.
+#pragma once
+
+#include <array>
+#include <span>
+
+namespace vela {
+
+// Grammatical gender, as the unit tables store it.
+enum FamilyGender : int { kMasculine = 0, kFeminine = 1, kNeuter = 2 };
+
+// A counted thing: its key (the abbreviation written after a number, "N/A"
+// for rows reached only through their word) and its word after 1, after 2-4,
+// and after 0, 5-20 and the teens.
+struct UnitRow {
+  const char* key;
+  int gender;
+  const char* form1;
+  const char* form2;
+  const char* form5;
+};
+
+// A currency key and the word (form 1) of its minor unit.
+struct CurrencyRow {
+  const char* key;
+  const char* minorUnit;
+};
+
+// A symbol read on its own; the key is compared byte for byte.
+struct SymbolRow {
+  const char* key;
+  const char* word;
+};
+
+// One word per gender: masculine, feminine, neuter.
+using GenderCells = std::array<const char*, 3>;
+
+// kNoForm marks a form a table lacks; the cardinal is spoken in its place.
+inline constexpr const char* kNoForm = nullptr;
+
+struct TeenRow {
+  const char* cardinal;
+  const char* ordinalNominative;  // neuter
+  const char* ordinalGenitive;
+};
+
+struct TensRow {
+  const char* cardinal;
+  const char* ordinalGenitive;
+  const char* ordinalNominative;  // neuter
+};
+
+struct HundredsRow {
+  const char* cardinal;
+  const char* ordinalGenitive;
+};
+
+// Number words. Row = digit; teens by (number - 10), tens by the tens digit,
+// hundreds by the hundreds digit. Row 0 of the teens, tens and hundreds is
+// never spoken.
+struct NumberWords {
+  std::array<GenderCells, 10> cardinal;
+  std::array<GenderCells, 10> ordinalNominative;
+  std::array<GenderCells, 10> ordinalGenitive;
+  std::array<TeenRow, 10> teens;
+  std::array<TensRow, 10> tens;
+  std::array<HundredsRow, 10> hundreds;
+};
+
+// Keys of the unit rows that read a decimal fraction ("две целых пять десятых").
+struct DecimalKeys {
+  const char* whole;
+  const char* tenths;
+  const char* hundredths;
+};
+
+// Everything that makes one language of the family.
+struct FamilyLanguage {
+  const NumberWords* numbers;
+  std::span<const UnitRow> units;  // first match wins: never sorted
+  std::span<const CurrencyRow> currencies;
+  std::span<const SymbolRow> symbols;
+  std::span<const char* const> months;  // genitive month names, entry 0 empty
+
+  // Unit rows used by number rather than by a suffix.
+  int milliardsRow;
+  int millionsRow;
+  int thousandsRow;  // its forms 1 and 2 are also the year's thousand words
+  int hoursRow;
+  int minutesRow;
+  int secondsRow;
+
+  // The named differences between the languages.
+  const char* speak3Complaint;  // printed for a genitive without the ordinal flag
+  const char* zeroBeforeUnit;   // zero with a unit word: " ноль " then form 5
+  const char* leadingZero;      // each leading zero of a bare number
+  const char* minusWord;        // the minus prefix, or null for the interface's default
+  const char* femaleSuffix;     // suffix asking for a feminine number without a unit word, or null
+  const DecimalKeys* decimals;  // unit keys of the decimal words; null: decimals are not spoken
+  bool hasDayCaseMarker;        // "(I)" after a date asks for a nominative day
+  int hoursGender;              // "один час" (Russian) or "odna godyna" (Ukrainian)
+  const char* year2000;         // the whole year 2000 as one word
+  const char* yearWord;         // after the year
+};
+
+extern const FamilyLanguage kRussianLanguage;
+extern const FamilyLanguage kRussianTransLanguage;
+extern const FamilyLanguage kUkrainianLanguage;
+
+}  // namespace vela

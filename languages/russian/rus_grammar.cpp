@@ -1,0 +1,68 @@
+#include "languages/russian/rus_grammar.h"
+
+#include "languages/russian/family_speaker.h"
+
+namespace vela {
+namespace {
+
+FamilySpeaker speaker() { return FamilySpeaker(kRussianLanguage); }
+
+}  // namespace
+
+int RusGrammar::speakDate(const std::string& day, const std::string& month, const std::string& year,
+                          const std::string& century, const std::string&, std::string& out) {
+  return speaker().speakDate(day, month, year, century, out);
+}
+void RusGrammar::speakNumber(const DigitList& tokenList, std::string& out) {
+  speaker().speakNumber(tokenList, out);
+}
+void RusGrammar::speakDigitString(const DigitList& tokenList, std::string& out) {
+  speaker().speakDigitString(tokenList, out);
+}
+void RusGrammar::speakCharacter(const std::string& character, std::string& out) {
+  speaker().speakCharacter(character, out);
+}
+void RusGrammar::speakClockTime(const std::string& hours, const std::string& minutes, std::string& out) {
+  speaker().speakClockTime(hours, minutes, out);
+}
+void RusGrammar::speakDuration(const std::string& hours, const std::string& minutes, std::string& out) {
+  speaker().speakDuration(hours, minutes, out);
+}
+void RusGrammar::appendMinus(std::string& out) { speaker().appendMinus(out); }
+void RusGrammar::speakClockTimeWithSeconds(const std::string& hours, const std::string& minutes,
+                                           const std::string& seconds, std::string& out) {
+  speaker().speakClockTimeWithSeconds(hours, minutes, seconds, out);
+}
+
+bool RusGrammar::isUnit(const std::string& unit) { return speaker().isUnit(unit); }
+bool RusGrammar::isCurrency(const std::string& unit) { return speaker().isCurrency(unit); }
+void RusGrammar::speakMoney(const DigitList&, const DigitList&, const std::string& intDigits,
+                            const std::string& fracDigits, const std::string& unit, std::string& out) {
+  speaker().speakMoney(intDigits, fracDigits, unit, out);
+}
+void RusGrammar::speakCount(const DigitList&, const std::string& intDigits, const std::string& unit,
+                            std::string& out) {
+  speaker().speakCount(intDigits, unit, out);
+}
+bool RusGrammar::allowsFraction(const std::string&) { return true; }
+void RusGrammar::speakMinorUnits(const DigitList&, const DigitList&, const std::string&,
+                                 const std::string& fracDigits, const std::string& unit, std::string& out) {
+  speaker().speakMinorUnits(fracDigits, unit, out);
+}
+void RusGrammar::speakDecimal(const DigitList&, const DigitList&, const std::string& intDigits,
+                              const std::string& fracDigits, const std::string& unit, std::string& out) {
+  speaker().speakDecimal(intDigits, fracDigits, unit, out);
+}
+
+int RusGrammar::speak3(const DigitGroup& group, int gender, int genitive, int ordinal,
+                       std::string& out) const {
+  return speaker().speak3(group, gender, genitive, ordinal, out);
+}
+void RusGrammar::appendUnitForm(const DigitGroup& group, std::string& out, int unitRow, int mode) const {
+  speaker().appendUnitForm(group, out, unitRow, mode);
+}
+int RusGrammar::getGender(const std::string& suffix) const { return speaker().getGender(suffix); }
+int RusGrammar::findUnit(const std::string& suffix) const { return speaker().findUnit(suffix); }
+int RusGrammar::findSymbol(const std::string& token) const { return speaker().findSymbol(token); }
+
+}  // namespace vela
