@@ -26,9 +26,11 @@ std::string readFile(const std::string& path) {
 
 // Runs `vela ARGS` with `input` on standard input.
 ToolResult runTool(const std::string& args, const std::string& input = "") {
-  const std::string dir = ::testing::TempDir();
-  const std::string inPath = dir + "vela_in.txt", outPath = dir + "vela_out.txt",
-                    errPath = dir + "vela_err.txt";
+  // Unique per process and call: tests run in parallel.
+  static int calls = 0;
+  const std::string base =
+      ::testing::TempDir() + "vela_tool_" + std::to_string(getpid()) + "_" + std::to_string(++calls);
+  const std::string inPath = base + ".in", outPath = base + ".out", errPath = base + ".err";
   std::ofstream(inPath, std::ios::binary) << input;
   const std::string cmd =
       std::string(VELA_TOOL_PATH) + " " + args + " <" + inPath + " >" + outPath + " 2>" + errPath;
