@@ -18,6 +18,7 @@ namespace vela {
 //   void speakMinorUnits(intList, fracList, intDigits, fracDigits, unit, out);
 //   void speakDecimal(intList, fracList, intDigits, fracDigits, unit, out);
 // A class without them knows no unit word: every amount is an unknown unit.
+// A class with only some of them does not compile.
 template <class T>
 concept SpeaksAmounts = requires(T& g, const DigitList& l, const std::string& s, std::string& out) {
   { g.isUnit(s) } -> std::same_as<bool>;
@@ -25,8 +26,13 @@ concept SpeaksAmounts = requires(T& g, const DigitList& l, const std::string& s,
   g.speakMoney(l, l, s, s, s, out);
   g.speakCount(l, s, s, out);
   { g.allowsFraction(s) } -> std::same_as<bool>;
+  g.speakMinorUnits(l, l, s, s, s, out);
   g.speakDecimal(l, l, s, s, s, out);
 };
+
+// A class that knows unit words at all.
+template <class T>
+concept DeclaresUnits = requires(T& g, const std::string& s) { g.isUnit(s); };
 
 template <class T>
 class GrammarBase : public IGrammarBase {
@@ -34,7 +40,8 @@ class GrammarBase : public IGrammarBase {
   // -1: unknown unit; -2: a fraction with a unit that takes none; 0: spoken.
   int speakAmount(const DigitList& intList, const DigitList& fracList, const std::string& intDigits,
                   const std::string& fracDigits, const std::string& unit, std::string& out) override {
-    if constexpr (SpeaksAmounts<T>) {
+    if constexpr (DeclaresUnits<T>) {
+      static_assert(SpeaksAmounts<T>, "a grammar that knows unit words declares all seven amount slots");
       T& self = static_cast<T&>(*this);
       if (!self.isUnit(unit)) return -1;
       if (self.isCurrency(unit)) {

@@ -7,4 +7,6 @@ cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build -j "$(nproc)"
 set -x
 ./build/vela -l ru 12.50руб 21руб 1.05.2015 7:05
+./build/vela -l ru -t 12.50rub 1.05.2015
+./build/vela -l uk 21.03.1999 7:05
 ./build/vela -l en 1.05usd 1.05.2015 7:05
