@@ -1,6 +1,6 @@
 // A grammar that speaks nothing real: every operation records its name and
-// arguments as one line "op(arg1|arg2|...)" and appends a fixed word, so the
-// classifier and the handlers can be tested without a language.
+// arguments as "op(arg1|arg2|...)" and appends " op", so the classifier and the
+// handlers can be tested without a language.
 #pragma once
 
 #include <string>
@@ -10,51 +10,77 @@
 
 namespace vela::testing {
 
-struct CallLog {
-  std::vector<std::string> calls;
-  std::string joined() const;
-};
+using Args = std::vector<std::string>;
+
+// "5,0,2,1" for the digit list {5,0,2,1}.
+std::string joinList(const DigitList& list, const char* separator = ",");
 
 class RecordingGrammar final : public GrammarBase<RecordingGrammar> {
  public:
-  explicit RecordingGrammar(CallLog& log, bool specialAmount = false) : log_(log), special_(specialAmount) {}
+  explicit RecordingGrammar(bool specialAmount = false) : special_(specialAmount) {}
+  std::string calls() const { return joinList(calls_, ";"); }
 
-  bool speakSpecialAmount(const std::string& intDigits, const std::string& unit, std::string& out) override;
-  int speakDate(const std::string& day, const std::string& month, const std::string& year,
-                const std::string& century, const std::string& yearTail, std::string& out) override;
-  void speakNumber(const DigitList& tokens, std::string& out) override;
-  void speakDigitString(const DigitList& tokens, std::string& out) override;
-  void speakDialString(const std::string& keys, std::string& out) override;
-  void speakCharacter(const std::string& character, std::string& out) override;
-  void speakClockTime(const std::string& h, const std::string& m, std::string& out) override;
-  void speakDuration(const std::string& h, const std::string& m, std::string& out) override;
+  bool speakSpecialAmount(const std::string& digits, const std::string& unit, std::string& out) override {
+    if (special_) record("special", {digits, unit}, out);
+    return special_;
+  }
+  int speakDate(const std::string& d, const std::string& m, const std::string& y, const std::string& c,
+                const std::string& t, std::string& out) override {
+    record("date", {d, m, y, c, t}, out);
+    return 0;
+  }
+  void speakNumber(const DigitList& tokens, std::string& out) override { record("number", tokens, out); }
+  void speakDigitString(const DigitList& tokens, std::string& out) override { record("digits", tokens, out); }
+  void speakDialString(const std::string& keys, std::string& out) override { record("dial", {keys}, out); }
+  void speakCharacter(const std::string& c, std::string& out) override { record("char", {c}, out); }
+  void speakClockTime(const std::string& h, const std::string& m, std::string& out) override {
+    record("clock", {h, m}, out);
+  }
+  void speakDuration(const std::string& h, const std::string& m, std::string& out) override {
+    record("span", {h, m}, out);
+  }
   void speakDurationWithSeconds(const std::string& h, const std::string& m, const std::string& s,
-                                std::string& out) override;
-  void appendMinus(std::string& out) override;
+                                std::string& out) override {
+    record("spans", {h, m, s}, out);
+  }
+  void appendMinus(std::string& out) override { out += "MINUS"; }
   void speakClockTimeWithSeconds(const std::string& h, const std::string& m, const std::string& s,
-                                 std::string& out) override;
+                                 std::string& out) override {
+    record("clocks", {h, m, s}, out);
+  }
 
-  // Amount slots: "rub" is a currency, "kb" a unit taking fractions, "pcs" a
-  // unit without fractions; anything else is unknown.
-  virtual bool isUnit(const std::string& unit);
-  virtual bool isCurrency(const std::string& unit);
-  virtual void speakMoney(const DigitList& intList, const DigitList& fracList, const std::string& intDigits,
-                          const std::string& fracDigits, const std::string& unit, std::string& out);
-  virtual void speakCount(const DigitList& intList, const std::string& intDigits, const std::string& unit,
-                          std::string& out);
-  virtual bool allowsFraction(const std::string& unit);
+  // "rub" is a currency, "kb" a unit taking fractions, "pcs" one taking none.
+  virtual bool isUnit(const std::string& u) { return u == "rub" || u == "kb" || u == "pcs"; }
+  virtual bool isCurrency(const std::string& u) { return u == "rub"; }
+  virtual void speakMoney(const DigitList& il, const DigitList& fl, const std::string& id,
+                          const std::string& fd, const std::string& u, std::string& out) {
+    record("money", {joinList(il), joinList(fl), id, fd, u}, out);
+  }
+  virtual void speakCount(const DigitList& il, const std::string& id, const std::string& u,
+                          std::string& out) {
+    record("count", {joinList(il), id, u}, out);
+  }
+  virtual bool allowsFraction(const std::string& u) { return u == "kb"; }
   virtual void speakMinorUnits(const DigitList&, const DigitList&, const std::string&, const std::string&,
                                const std::string&, std::string&) {}
-  virtual void speakDecimal(const DigitList& intList, const DigitList& fracList, const std::string& intDigits,
-                            const std::string& fracDigits, const std::string& unit, std::string& out);
+  virtual void speakDecimal(const DigitList& il, const DigitList& fl, const std::string& id,
+                            const std::string& fd, const std::string& u, std::string& out) {
+    record("decimal", {joinList(il), joinList(fl), id, fd, u}, out);
+  }
 
  private:
-  void record(const std::string& op, const std::vector<std::string>& args, std::string& out);
-  CallLog& log_;
+  void record(const std::string& op, const Args& args, std::string& out) {
+    calls_.push_back(op + "(" + joinList(args, "|") + ")");
+    out += " " + op;
+  }
   bool special_;
+  std::vector<std::string> calls_;
 };
 
-// "5,0,2,1" for the list {5,0,2,1}.
-std::string joinList(const DigitList& list);
+inline std::string joinList(const DigitList& list, const char* separator) {
+  std::string s;
+  for (std::size_t i = 0; i < list.size(); ++i) s += (i == 0 ? "" : separator) + list[i];
+  return s;
+}
 
 }  // namespace vela::testing

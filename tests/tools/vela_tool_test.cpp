@@ -50,22 +50,17 @@ struct ToolCase {
 
 const ToolCase kCases[] = {
     {"-l en '  a.wav   b.wav '", "", "a.wav b.wav\n", 0, ""},
-    {"-l en x.wav y.wav", "", "x.wav\ny.wav\n", 0, ""},
     {"-l en", "a.wav\r\n\nb.wav\n", "a.wav\n\nb.wav\n", 0, ""},
-    {"-l en -- -5", "", "-5\n", 0, ""},
-    {"-l en -5", "", "-5\n", 0, ""},
     {"-l xx a.wav", "", "a.wav\n", 1, "unknown language tag"},
     {"-l en '漢.wav' b.wav", "", "\nb.wav\n", 1, "Windows-1251"},
-    {"-l en 'ёж.wav'", "", "ёж.wav\n", 0, ""},
     {"--raw -l en \"$(printf '\\270.wav')\"", "", "\xB8.wav\n", 0, ""},
     {"--bogus", "", "", 2, "usage"},
     // real readings, and the grammars' complaints kept off the prompt output
     {"-l ru 12.50руб", "", "двенадцать рублей пятьдесят копеек\n", 0, ""},
-    {"-l ru -t 12.50rub", "", "dvenadcat rublei pyatdesyat kopeek\n", 0, ""},
+    {"-l ru -t -- 12.50rub -5", "", "dvenadcat rublei pyatdesyat kopeek\n-5\n", 0, ""},
     {"-l en 1.05usd", "", "one dollar and five cents\n", 0, ""},
     {"-l ru", "21руб\n7:05\n", "двадцать один рубль\nсемь часов пять минут\n", 0, ""},
     {"-l ru 25:00 1:00", "", "25:00\nодин час ноль минут\n", 0, "wrong time (hours) 25"},
-    {"-l ru -t 30rub", "", "tridcat rublei\n", 0, ""},
 };
 
 TEST(VelaToolTest, Table) {
