@@ -57,6 +57,7 @@ const Case kDecodes[] = {
     {"3.999kzt", "three tenges and ninety nine tiyn"},
     {"0.25usd", "zero dollars twenty five cents"},
     {"21.01amd", "twenty one drams and one lumm"},
+    {"2.567rub", "two rubles and fifty six kopecks"},
     {"1.0USD", "one dollar"},
     {",5usd", "zero dollars fifty cents"},
     // Centuries 19 and 20 only (the "(I)" form passes none); the last two
@@ -78,10 +79,12 @@ const Case kDecodes[] = {
     {"12:00:01", "zero hours and zero minutes and  one second PM"},
     {"\"13:00\"", "thirteen hours and zero minutes"},
     {"\"1:02:03\"", "\"1:02:03\""},
-    // Digit by digit: "nought" in bare numbers, "zero" in quoted strings, where
-    // the quotes leave empty words. A lone digit is a bare number.
+    // Digit by digit: "nought" in bare numbers, "zero" in quoted strings; any
+    // other character (quotes, '#', '*') leaves an empty word. A lone digit is a
+    // bare number.
     {"2005", "two nought nought five "},
     {"\"0070\"", " zero zero seven zero  "},
+    {"\"12#*\"", " one two    "},
     {"#", "pound"},
 };
 
