@@ -60,7 +60,7 @@ public final class VelaJvmTest {
 
   static String show(Object o) {
     String s = o == null ? "null" : new String(bytes(o), CP1251);
-    return s.length() > 40 ? "[" + s.length() + " bytes]" : "\"" + s + "\"";
+    return s.length() > 40 ? "[" + s.length() + " bytes]" : "\"" + s.replace("\0", "\\0") + "\"";
   }
 
   static void check(boolean ok, String what) {
