@@ -1,4 +1,4 @@
-// A C++ host: the list entry and the C entry through the installed package.
+// A C++ host of the installed package: the list entry, which only C++ can call.
 #include <vela/vela.h>
 
 #include <cstdio>
@@ -9,23 +9,9 @@
 int main() {
   std::vector<std::string> files{"kept"};
   std::ostringstream log;
-  // Tag and text are lower-cased; the names come back split at spaces.
-  const bool ok = DecodeBufferASCII("EN", "  A.WAV   B ", files, log);
-  if (!ok || files != std::vector<std::string>{"kept", "a.wav", "b"} || !log.str().empty()) {
-    std::printf("FAILED: DecodeBufferASCII %d, %zu names, log \"%s\"\n", ok, files.size(), log.str().c_str());
-    return 1;
-  }
-  std::ostringstream unknown;
-  if (DecodeBufferASCII("xx", "7", files, unknown) || unknown.str() != " language tag incorrect") {
-    std::printf("FAILED: unknown tag, log \"%s\"\n", unknown.str().c_str());
-    return 1;
-  }
-  char* out = nullptr;
-  if (decodeBuffer("en", "x  y.wav", &out) != 0 || std::string(out) != "x  y.wav") {
-    std::printf("FAILED: decodeBuffer \"%s\"\n", out ? out : "(null)");
-    return 1;
-  }
-  decodeReleaseBuffer(out);
-  std::printf("cmake consumer ok\n");
-  return 0;
+  // Tag and text are lower-cased; the names come back split at spaces, after the old ones.
+  const bool ok = DecodeBufferASCII("EN", "  A.WAV   B ", files, log) &&
+                  files == std::vector<std::string>{"kept", "a.wav", "b"} && log.str().empty();
+  std::printf("cmake consumer %s\n", ok ? "ok" : "FAILED");
+  return ok ? 0 : 1;
 }
