@@ -10,14 +10,13 @@ namespace {
 const Reading kReadings[] = {
     // Plural forms after a number: 1, 2-4, 5+; a ten is not a teen, the teens
     // always take 5+, a round hundred is not a zero group; the unit's gender
-    // agrees with one and two.
+    // agrees with one.
     {"21руб"_cp, "двадцать один рубль"_cp},
     {"22руб"_cp, "двадцать два рубля"_cp},
     {"10руб"_cp, "десять рублей"_cp},
     {"1011руб"_cp, "одна тысяча одиннадцать рублей"_cp},
     {"100руб"_cp, "сто рублей"_cp},
     {"21min", "двадцать одна минута"_cp},
-    {"1mes", "одно сообщение"_cp},
     // Order words: thousands are feminine, an all-zero group says nothing, and
     // only the last twelve digits are spoken (all zero there: the text comes back).
     {"2000", "две тысячи"_cp},
@@ -62,7 +61,7 @@ const Reading kReadings[] = {
     {"1|5", "одна целая пять десятых"_cp},
     // Dates: genitive day, nominative with "(I)", only the last word ordinal;
     // day 31 and month 12 pass; years 1000-2999, 2000 as one word.
-    {"22.06.2015(I)", "двадцать второе июня две тысячи пятнадцатого года"_cp},
+    {"22.06.1910(I)", "двадцать второе июня одна тысяча девятьсот десятого года"_cp},
     {"30.01", "тридцатого января"_cp},
     {"30.01(I)", "тридцатое января"_cp},
     {"11.11(I)", "одиннадцатое ноября"_cp},
@@ -77,17 +76,19 @@ const Reading kReadings[] = {
     {"12:30:00", "двенадцать часов тридцать минут"_cp},
     {"24:60:60", "двадцать четыре часа шестьдесят минут шестьдесят секунд"_cp},
     {"\"1000:01\"", "одна тысяча часов одна минута"_cp},
-    // Digit strings digit by digit (other characters silent); symbols by name.
+    // Digit strings digit by digit; other characters in them are silent.
     {"\"0123456789\"", "ноль один два три четыре пять шесть семь восемь девять"_cp},
     {"\"12#*\"", "один два"_cp},
 };
 
 TEST(RusGrammar, Readings) {
   expectReadings("ru", kReadings);
+  // A digit string longer than 31 characters is read whole.
   EXPECT_EQ(speak("ru", "\"" + std::string(40, '7') + "\"").size(), 40 * std::string("семь "_cp).size() - 1);
 }
 
-// What is printed on standard output; a rejected date or time speaks nothing.
+// What is printed on standard output (nothing for a bare decimal); a rejected
+// date or time speaks nothing.
 TEST(RusGrammar, Diagnostics) {
   const struct {
     const char* text;

@@ -58,12 +58,14 @@ TEST(RussianNumberCore, Speak3RefusesGenitiveWithoutOrdinal) {
             " wrong parameters for UkranianGrammar::speak3\n\r");
 }
 
-// A unit row outside the table appends nothing and reads nothing.
-TEST(RussianNumberCore, AppendUnitFormOutsideTheTable) {
+// A unit row outside the table appends nothing and reads nothing; a symbol is
+// matched whole, never by its first character.
+TEST(RussianNumberCore, OutsideTheTables) {
   std::string out;
   kRussian.appendUnitForm(groupOf("5"), out, -1, 1);
   kRussian.appendUnitForm(groupOf("5"), out, 88, 1);
   EXPECT_EQ(out, "");
+  EXPECT_EQ(kRussian.findSymbol("##"), 0);
 }
 
 // A bare zero says nothing; "female" is feminine in Russian only; an unknown
