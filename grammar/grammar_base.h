@@ -32,7 +32,9 @@ concept SpeaksAmounts = requires(T& g, const DigitList& l, const std::string& s,
 
 // A class that knows unit words at all.
 template <class T>
-concept DeclaresUnits = requires(T& g, const std::string& s) { g.isUnit(s); };
+concept DeclaresUnits = requires(T& g, const std::string& s) {
+  g.isUnit(s);
+};
 
 template <class T>
 class GrammarBase : public IGrammarBase {
