@@ -26,6 +26,7 @@ TextDecoder::TextDecoder(boost::shared_ptr<IGrammar> injected, const std::string
 int trimInput(std::string& s) {
   if (s.size() > 512) return -1;
   if (s.empty()) return -2;
+  s.resize(std::strlen(s.c_str()));  // a trimmed text ends at its first zero byte
   const std::size_t first = s.find_first_not_of(' ');
   if (first == std::string::npos) {
     s.clear();

@@ -52,7 +52,8 @@ class TextDecoder {
 };
 
 // Trims leading and trailing spaces (0x20 only) of a text of 1 to 512 bytes and
-// returns 1; a longer text is left as it is (-1), an empty one returns -2.
+// returns 1; such a text also ends at its first zero byte. A longer text is
+// left as it is (-1), an empty one returns -2.
 int trimInput(std::string& s);
 
 // Turns every run of spaces into one space; returns 1.

@@ -42,6 +42,11 @@ const AsciiCase kAscii[] = {
     {"", "a.wav", false, {"old"}, " language tag incorrect"},
     {"en", "   ", false, {"old"}, "input buffer have an incorrect format:    "},
     {"en", "5XYZ", false, {"old"}, "input buffer have an incorrect format: 5XYZ"},
+    {"en",
+     std::string("\0a.wav", 6),
+     false,
+     {"old"},
+     "input buffer have an incorrect format: " + std::string("\0a.wav", 6)},
 };
 
 TEST(DecodeBufferAsciiTest, Table) {

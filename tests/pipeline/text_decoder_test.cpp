@@ -13,8 +13,13 @@ const std::string k513 = " " + std::string(511, 'a') + " ";
 // Only the space byte is trimmed, and only in texts of 1 to 512 bytes.
 TEST(TrimInputTest, Table) {
   const std::tuple<std::string, int, std::string> cases[] = {
-      {"  a b  ", 1, "a b"},          {"    ", 1, ""},  {"", -2, ""}, {"\ta\t", 1, "\ta\t"},
-      {k512, 1, k512.substr(1, 510)}, {k513, -1, k513},
+      {"  a b  ", 1, "a b"},
+      {"    ", 1, ""},
+      {"", -2, ""},
+      {"\ta\t", 1, "\ta\t"},
+      {std::string(" 5\0 a ", 6), 1, "5"},
+      {k512, 1, k512.substr(1, 510)},
+      {k513, -1, k513},
   };
   for (const auto& [in, result, out] : cases) {
     std::string s = in;
