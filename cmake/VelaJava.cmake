@@ -8,7 +8,9 @@ if(NOT JAVA_HOME AND NOT DEFINED ENV{JAVA_HOME})
   get_filename_component(_vela_jdk_bin "${_vela_javac}" DIRECTORY)
   get_filename_component(JAVA_HOME "${_vela_jdk_bin}" DIRECTORY)
 endif()
-find_package(JNI REQUIRED)
+# Only jni.h and the JVM (for the tests) are used: asking for no components would
+# also demand AWT, which a headless JDK does not have.
+find_package(JNI REQUIRED COMPONENTS JVM)
 
 # Only the headers: the library is loaded by a JVM, it never links one.
 target_link_libraries(vela_objects PUBLIC JNI::JNI)
