@@ -67,11 +67,26 @@ struct GenderRow {
 };
 
 // The gender of a noun by its key; a key not listed is feminine.
+// clang-format off
 inline constexpr GenderRow kNounGenders[15] = {
-    {"d", kMasculine},    {"rub", kFeminine},  {"kop", kFeminine}, {"o", kFeminine},    {"min", kNeuter},
-    {"cent", kMasculine}, {"fax", kNeuter},    {"mes", kNeuter},   {"leu", kMasculine}, {"sec", kFeminine},
-    {"num", kNeuter},     {"ban", kMasculine}, {"eye", kFeminine}, {"unit", kFeminine}, {"ed", kFeminine},
+    // key    gender
+    {"d",    kMasculine},
+    {"rub",  kFeminine},
+    {"kop",  kFeminine},
+    {"o",    kFeminine},
+    {"min",  kNeuter},
+    {"cent", kMasculine},
+    {"fax",  kNeuter},
+    {"mes",  kNeuter},
+    {"leu",  kMasculine},
+    {"sec",  kFeminine},
+    {"num",  kNeuter},
+    {"ban",  kMasculine},
+    {"eye",  kFeminine},
+    {"unit", kFeminine},
+    {"ed",   kFeminine},
 };
+// clang-format on
 
 struct NounRow {
   const char* key;  // "N/A": reached by no suffix (keys are matched lower-case)
@@ -124,11 +139,18 @@ struct CurrencyRow {
   const char* minor;
 };
 
+// clang-format off
 inline constexpr CurrencyRow kCurrencies[] = {
-    // key    major   minor
-    {"leu", "leu", "ban"}, {"d", "d", "cent"},   {"rub", "rub", "kop"},  {"mdl", "leu", "ban"},
-    {"ron", "leu", "ban"}, {"usd", "d", "cent"}, {"eur", "eur", "cent"},
+    // key   major  minor
+    {"leu", "leu", "ban"},
+    {"d",   "d",   "cent"},
+    {"rub", "rub", "kop"},
+    {"mdl", "leu", "ban"},   // Moldovan leu
+    {"ron", "leu", "ban"},   // Romanian leu
+    {"usd", "d",   "cent"},
+    {"eur", "eur", "cent"},
 };
+// clang-format on
 
 // --- dates and times ---
 
@@ -160,9 +182,21 @@ struct SymbolRow {
 };
 
 // Keypad keys and the usual symbols; a character not listed says nothing.
+// clang-format off
 inline constexpr SymbolRow kSymbols[] = {
-    {'*', "steluta"}, {'#', "diez"},        {'+', "plus"},  {'-', "minus"},   {'=', "egal"},  {'.', "punct"},
-    {',', "virgula"}, {':', "doua puncte"}, {'/', "slash"}, {'%', "procent"}, {'@', "arond"}, {'$', "dolar"},
+    {'*', "steluta"},
+    {'#', "diez"},
+    {'+', "plus"},
+    {'-', "minus"},
+    {'=', "egal"},
+    {'.', "punct"},
+    {',', "virgula"},
+    {':', "doua puncte"},
+    {'/', "slash"},
+    {'%', "procent"},
+    {'@', "arond"},
+    {'$', "dolar"},
 };
+// clang-format on
 
 }  // namespace vela::romanian
