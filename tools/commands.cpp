@@ -112,12 +112,13 @@ int listPrompts(const Options& options, std::FILE* promptOut) {
   std::size_t total = 0;
   for (const std::string& name : promptInventory(options.tag, options.mode)) {
     ++total;
-    if (!options.checkDir.empty() && isReadableFile(options.checkDir + "/" + recordingFileName(name)))
-      continue;
-    lines.push_back(shown(options, name));
+    const std::string file = recordingFileName(name);
+    if (!options.checkDir.empty() && isReadableFile(options.checkDir + "/" + file)) continue;
+    lines.push_back(shown(options, name) + (options.withFiles ? "\t" + file : ""));
   }
   std::sort(lines.begin(), lines.end());
   for (const std::string& line : lines) std::fprintf(promptOut, "%s\n", line.c_str());
+  std::fflush(promptOut);
   if (!options.checkDir.empty()) {
     std::fprintf(stderr, "vela: %zu of %zu recordings missing in %s\n", lines.size(), total,
                  options.checkDir.c_str());

@@ -12,10 +12,11 @@ struct Options {
   std::string tag = "ru";
   unsigned char mode = 0;
   bool raw = false;
-  std::string checkDir;  // prompts --check
-  std::string voiceDir;  // say --voice
-  std::string outPath;   // say -o
-  int pauseMs = 150;     // say --pause
+  std::string checkDir;    // prompts --check
+  bool withFiles = false;  // prompts --files
+  std::string voiceDir;    // say --voice
+  std::string outPath;     // say -o
+  int pauseMs = 150;       // say --pause
   std::vector<std::string> texts;
 };
 

@@ -20,33 +20,6 @@ namespace {
 
 using Grammar = boost::shared_ptr<IGrammar>;
 
-// The grammars print a complaint on standard output for every bad input, and
-// the inventory tries many on purpose: they go nowhere while it runs.
-class QuietGrammars {
- public:
-  QuietGrammars() {
-    std::fflush(stdout);
-    saved_ = dup(STDOUT_FILENO);
-    const int null = open("/dev/null", O_WRONLY);
-    if (null >= 0) {
-      dup2(null, STDOUT_FILENO);
-      close(null);
-    }
-  }
-  ~QuietGrammars() {
-    std::fflush(stdout);
-    if (saved_ >= 0) {
-      dup2(saved_, STDOUT_FILENO);
-      close(saved_);
-    }
-  }
-  QuietGrammars(const QuietGrammars&) = delete;
-  QuietGrammars& operator=(const QuietGrammars&) = delete;
-
- private:
-  int saved_ = -1;
-};
-
 // Whether the rule runner replaces `text` (already trimmed) by prompt names:
 // the same test as the runner's, a leftmost match that is the whole text.
 bool someRuleTakes(const std::string& text) {
@@ -218,6 +191,24 @@ class WordSorter {
 };
 
 }  // namespace
+
+QuietGrammars::QuietGrammars() {
+  std::fflush(stdout);
+  saved_ = dup(STDOUT_FILENO);
+  const int null = open("/dev/null", O_WRONLY);
+  if (null >= 0) {
+    dup2(null, STDOUT_FILENO);
+    close(null);
+  }
+}
+
+QuietGrammars::~QuietGrammars() {
+  std::fflush(stdout);
+  if (saved_ >= 0) {
+    dup2(saved_, STDOUT_FILENO);
+    close(saved_);
+  }
+}
 
 void splitNames(const std::string& names, std::vector<std::string>& into) {
   std::size_t pos = 0;

@@ -28,6 +28,19 @@ std::set<std::string> promptInventory(const std::string& tag, unsigned char mode
 std::optional<std::vector<std::string>> speakNames(const std::string& tag, unsigned char mode,
                                                    const std::string& text);
 
+// While one lives, standard output goes nowhere: the grammars print a
+// complaint there for every bad input, and the inventory tries many on purpose.
+class QuietGrammars {
+ public:
+  QuietGrammars();
+  ~QuietGrammars();
+  QuietGrammars(const QuietGrammars&) = delete;
+  QuietGrammars& operator=(const QuietGrammars&) = delete;
+
+ private:
+  int saved_ = -1;
+};
+
 // Appends the non-empty space-separated pieces of `names`.
 void splitNames(const std::string& names, std::vector<std::string>& into);
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kUsage =
     "usage: vela [-l TAG] [-t] [--raw] [TEXT...]\n"
-    "       vela prompts [-l TAG] [-t] [--raw] [--check DIR]\n"
+    "       vela prompts [-l TAG] [-t] [--raw] [--files] [--check DIR]\n"
     "       vela say [-l TAG] [-t] --voice DIR -o OUT.wav [--pause MS] TEXT...\n"
     "\n"
     "Prints, for each TEXT, one line: the names of the prompts that speak it,\n"
@@ -31,7 +31,8 @@ constexpr const char* kUsage =
     "sorted by byte. With --check DIR, prints only those without a recording\n"
     "DIR/NAME.wav and exits with 1 when any is missing. NAME is the prompt name\n"
     "in UTF-8, with the bytes / \\ : * ? \" < > | %, control bytes and a leading\n"
-    "dot written as %XX (hexadecimal of the Windows-1251 byte).\n"
+    "dot written as %XX (hexadecimal of the Windows-1251 byte). --files adds a\n"
+    "tab and that file name to each line.\n"
     "\n"
     "say: writes the recordings of the TEXTs' prompts, one after another, to\n"
     "OUT.wav, with MS milliseconds of silence between two (default 150). All\n"
@@ -99,6 +100,8 @@ vela::tools::Options parseOptions(int argc, char** argv) {
       options.raw = true;
     } else if (arg == "-l") {
       options.tag = valueOf(argc, argv, i);
+    } else if (arg == "--files" && options.command == "prompts") {
+      options.withFiles = true;
     } else if (arg == "--check" && options.command == "prompts") {
       options.checkDir = valueOf(argc, argv, i);
     } else if (arg == "--voice" && options.command == "say") {
