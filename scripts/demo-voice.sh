@@ -32,11 +32,13 @@ fi
 
 # The espeak-ng voice that reads the language's prompt names best. Names in
 # Latin transliteration are read by a voice that pronounces Latin letters
-# phonetically when espeak-ng has none for the language in that script.
+# phonetically when espeak-ng has none for the language in that script: Polish
+# for Ukrainian and transliterated Russian, Turkish for Kazakh, Persian in
+# Latin letters for Tajik, Esperanto for Georgian, Armenian and Arabic.
 voice_for() {
   case "$1" in
     ru | rus | RUSSIAN) if [ ${#mode[@]} -gt 0 ]; then echo pl; else echo ru; fi ;;
-    uk | ukr | UKRAINIAN | UKRANIAN | UKRAINIEN | UKRAINE) echo uk ;;
+    uk | ukr | UKRAINIAN | UKRANIAN | UKRAINIEN | UKRAINE) echo pl ;;
     ro | rom | rum | mo | mol | ROMANIAN | MOLDOVA) echo ro ;;
     uz | uzb | UZBEK | OUSZBEK | UZBEKISTAN) echo uz ;;
     kk | kaz | KAZAH | KAZAKH | KAZAKHSTAN) echo tr ;;
