@@ -221,14 +221,23 @@ void splitNames(const std::string& names, std::vector<std::string>& into) {
 }
 
 UnitWords findUnitWords(const std::string& tag, unsigned char mode) {
-  const QuietGrammars quiet;
   std::string error;
-  const SlotCaller slots(makeGrammar(tag, mode, error));
+  std::vector<std::string> listed;
+  const bool isListed = listUnitKeys(tag, mode, listed);
+  return findUnitWords(makeGrammar(tag, mode, error), isListed ? &listed : nullptr);
+}
+
+UnitWords findUnitWords(const boost::shared_ptr<IGrammar>& grammar,
+                        const std::vector<std::string>* listedWords) {
+  const QuietGrammars quiet;
+  const SlotCaller slots(grammar);
   WordSorter sorter(slots);
   UnitWords result;
+  result.listedByGrammar = listedWords != nullptr;
   std::vector<std::string> listed;
-  result.listedByGrammar = listUnitKeys(tag, mode, listed);
-  if (!result.listedByGrammar) {
+  if (listedWords != nullptr) {
+    listed = *listedWords;
+  } else {
     for (const std::string& word : wordsInImage()) {
       if (sorter.quickKnown(word)) listed.push_back(word);
     }
@@ -257,9 +266,15 @@ std::optional<std::vector<std::string>> speakNames(const std::string& tag, unsig
 }
 
 std::set<std::string> promptInventory(const std::string& tag, unsigned char mode) {
-  const QuietGrammars quiet;
   std::string error;
-  const Grammar grammar = makeGrammar(tag, mode, error);
+  std::vector<std::string> listed;
+  const bool isListed = listUnitKeys(tag, mode, listed);
+  return promptInventory(makeGrammar(tag, mode, error), isListed ? &listed : nullptr);
+}
+
+std::set<std::string> promptInventory(const boost::shared_ptr<IGrammar>& grammar,
+                                      const std::vector<std::string>* listedWords) {
+  const QuietGrammars quiet;
   const SlotCaller slots(grammar);
   std::set<std::string> names;
   std::vector<std::string> pieces;
@@ -269,7 +284,7 @@ std::set<std::string> promptInventory(const std::string& tag, unsigned char mode
     names.insert(pieces.begin(), pieces.end());
   };
 
-  std::vector<std::string> units = findUnitWords(tag, mode).words;
+  std::vector<std::string> units = findUnitWords(grammar, listedWords).words;
   units.push_back(unknownWord());
   for (const std::string& unit : units) {
     for (const AmountInput& a : amountInputs())

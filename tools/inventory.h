@@ -2,10 +2,13 @@
 // driving the grammar over every input that can change what it says.
 #pragma once
 
+#include <boost/shared_ptr.hpp>
 #include <optional>
 #include <set>
 #include <string>
 #include <vector>
+
+#include "grammar/igrammar.h"
 
 namespace vela::tools {
 
@@ -17,11 +20,16 @@ struct UnitWords {
   bool listedByGrammar = false;  // false: found by trying the words of the program's data
 };
 UnitWords findUnitWords(const std::string& tag, unsigned char mode);
+// The same for any grammar object; `listed` holds the words its class lists
+// (grammar/unit_keys.h), or is null when it lists none.
+UnitWords findUnitWords(const boost::shared_ptr<IGrammar>& grammar, const std::vector<std::string>* listed);
 
 // Every prompt name the grammar of (tag, mode) can answer any request with:
 // Windows-1251 bytes, sorted by byte, without repeats. Tags that share a
 // grammar share the answer.
 std::set<std::string> promptInventory(const std::string& tag, unsigned char mode);
+std::set<std::string> promptInventory(const boost::shared_ptr<IGrammar>& grammar,
+                                      const std::vector<std::string>* listed);
 
 // The prompt names of one request, or nullopt when no rule takes the text
 // (the library then hands the text itself back).
