@@ -3,6 +3,7 @@
 #include <link.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <set>
 
@@ -22,17 +23,20 @@ struct Search {
   std::set<std::string> words;
 };
 
-// Table cells are read as bytes, redzones between globals included.
+// Table cells are read byte by byte, redzones between globals included: the
+// reads are not checked, and a run is copied out before any library call.
 __attribute__((no_sanitize("address"))) void collectRuns(const unsigned char* begin, std::size_t size,
                                                          std::set<std::string>& words) {
   std::size_t runStart = 0;
   for (std::size_t i = 0; i < size; ++i) {
-    const unsigned char c = begin[i];
+    const unsigned char c = static_cast<const volatile unsigned char*>(begin)[i];
     if (isUnitLetter(c)) continue;
     const std::size_t length = i - runStart;
     if (c == 0 && length > 0 && length <= kLongestWord) {
-      for (std::size_t tail = runStart; tail < i; ++tail)
-        words.emplace(reinterpret_cast<const char*>(begin + tail), i - tail);
+      std::array<char, kLongestWord> run{};
+      for (std::size_t k = 0; k < length; ++k)
+        run[k] = static_cast<char>(static_cast<const volatile unsigned char*>(begin)[runStart + k]);
+      for (std::size_t tail = 0; tail < length; ++tail) words.emplace(run.data() + tail, length - tail);
     }
     runStart = i + 1;
   }
@@ -52,6 +56,7 @@ int visitObject(dl_phdr_info* info, std::size_t, void* data) {
     const ElfW(Phdr)& ph = info->dlpi_phdr[i];
     // Data only: constant tables live in the read-only and relocated segments.
     if (ph.p_type != PT_LOAD || (ph.p_flags & PF_X) != 0 || (ph.p_flags & PF_R) == 0) continue;
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader gives segments as addresses
     collectRuns(reinterpret_cast<const unsigned char*>(info->dlpi_addr + ph.p_vaddr), ph.p_filesz,
                 search->words);
   }
@@ -60,10 +65,13 @@ int visitObject(dl_phdr_info* info, std::size_t, void* data) {
 
 }  // namespace
 
-std::vector<std::string> wordsInImage() {
-  Search search{reinterpret_cast<std::uintptr_t>(&wordsInImage), {}};
-  dl_iterate_phdr(visitObject, &search);
-  return {search.words.begin(), search.words.end()};
+const std::vector<std::string>& wordsInImage() {
+  static const std::vector<std::string> words = [] {
+    Search search{reinterpret_cast<std::uintptr_t>(&wordsInImage), {}};
+    dl_iterate_phdr(visitObject, &search);
+    return std::vector<std::string>(search.words.begin(), search.words.end());
+  }();
+  return words;
 }
 
 }  // namespace vela::tools

@@ -160,7 +160,11 @@ std::string lower(const std::string& word) {
 // Keeps one word per signature, other than the unknown word's.
 class WordSorter {
  public:
-  explicit WordSorter(const SlotCaller& slots) : slots_(slots) { unknown_ = signature(slots, unknownWord()); }
+  explicit WordSorter(const SlotCaller& slots) : slots_(slots) {
+    unknown_ = signature(slots, unknownWord());
+    for (const AmountInput& a : quickProbeAmounts())
+      quickUnknown_.push_back(slots.amount(a.intDigits, a.fracDigits, unknownWord(), a.negative));
+  }
 
   void offer(const std::string& word) {
     if (word.empty() || tried_.count(word) != 0) return;
@@ -170,9 +174,10 @@ class WordSorter {
   }
   // A word read like the unknown word on the quick probes is left out.
   bool quickKnown(const std::string& word) const {
-    for (const AmountInput& a : quickProbeAmounts()) {
-      if (slots_.amount(a.intDigits, a.fracDigits, word, a.negative) !=
-          slots_.amount(a.intDigits, a.fracDigits, unknownWord(), a.negative))
+    const std::vector<AmountInput>& probes = quickProbeAmounts();
+    for (std::size_t i = 0; i < probes.size(); ++i) {
+      if (slots_.amount(probes[i].intDigits, probes[i].fracDigits, word, probes[i].negative) !=
+          quickUnknown_[i])
         return true;
     }
     return false;
@@ -186,6 +191,7 @@ class WordSorter {
  private:
   const SlotCaller& slots_;
   std::string unknown_;
+  std::vector<std::string> quickUnknown_;  // the unknown word's readings of the quick probes
   std::set<std::string> tried_;
   std::map<std::string, std::string> bySignature_;  // the first word offered with a signature
 };

@@ -19,6 +19,7 @@ std::string repeat(const std::string& s, int times) {
 // 0-9 and 00-99: every spelling of one or two digits.
 std::vector<std::string> oneOrTwoDigits() {
   std::vector<std::string> all;
+  all.reserve(110);
   for (int v = 0; v < 10; ++v) all.push_back(std::to_string(v));
   for (int v = 0; v < 100; ++v) all.push_back(pad(v, 2));
   return all;
@@ -27,6 +28,7 @@ std::vector<std::string> oneOrTwoDigits() {
 // 00-99.
 std::vector<std::string> twoDigits() {
   std::vector<std::string> all;
+  all.reserve(100);
   for (int v = 0; v < 100; ++v) all.push_back(pad(v, 2));
   return all;
 }

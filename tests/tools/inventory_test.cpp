@@ -228,13 +228,7 @@ void expectCompleteFor(const std::string& tag, unsigned char mode, unsigned seed
   if (problems.size() > 10) ADD_FAILURE() << tag << ": " << problems.size() - 10 << " more";
 }
 
-TEST(PromptInventoryTest, HoldsEveryNameOfEveryAnswerInEveryLanguage) {
-  unsigned seed = 13;
-  for (const char* tag : kTags) expectCompleteFor(tag, 0, ++seed);
-  for (const char* tag : {"ru", "rus", "RUSSIAN"}) expectCompleteFor(tag, 1, ++seed);
-}
-
-TEST(PromptInventoryTest, ListsNamesNotTexts) {
+void expectListsNamesNotTexts() {
   // A few names each inventory must hold, and some it must not: no request
   // reaches the keypad reading of a dial string ("sharp"), and texts given
   // back are not names.
@@ -263,6 +257,14 @@ TEST(PromptInventoryTest, ListsNamesNotTexts) {
       EXPECT_EQ(name.find(".wav"), std::string::npos) << name;
     }
   }
+}
+
+// One test, so that each grammar's inventory is computed once.
+TEST(PromptInventoryTest, HoldsEveryNameOfEveryAnswerInEveryLanguage) {
+  expectListsNamesNotTexts();
+  unsigned seed = 13;
+  for (const char* tag : kTags) expectCompleteFor(tag, 0, ++seed);
+  for (const char* tag : {"ru", "rus", "RUSSIAN"}) expectCompleteFor(tag, 1, ++seed);
 }
 
 }  // namespace
