@@ -139,7 +139,7 @@ def speak(tag, text, transliterated=False):
     tag is spoken in English. `transliterated` asks the Russian tags for Latin
     prompt names. A text the library cannot speak comes back as it is, split at
     spaces, as from the C function decodeBuffer. Raises ValueError when tag or
-    text holds a character Windows-1251 lacks.
+    text holds a character Windows-1251 lacks, or a zero character.
     """
     tag_bytes, text_bytes = _encode("tag", tag), _encode("text", text)
     if transliterated:
