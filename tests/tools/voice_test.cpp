@@ -150,22 +150,26 @@ TEST_F(VoiceTest, SayRefusesMissingOrMismatchedRecordingsAndLeavesNoOutput) {
 }
 
 TEST_F(VoiceTest, CheckListsTheRecordingsNotThere) {
-  std::string names;
-  ASSERT_EQ(run("prompts -l uk", &names), 0);
-  std::istringstream lines(names);
-  std::vector<std::string> all;
-  for (std::string name; std::getline(lines, name);) all.push_back(name);
-  ASSERT_GT(all.size(), 50u);
-  for (const std::string& name : all) {
-    std::ofstream(fs::path(voice()) / (name + ".wav")) << "";
+  // Each line of --files: the name, a tab, its recording's file name.
+  std::string listing;
+  ASSERT_EQ(run("prompts -l uk --files", &listing), 0);
+  std::istringstream lines(listing);
+  std::vector<std::string> names;
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t tab = line.find('\t');
+    ASSERT_NE(tab, std::string::npos) << line;
+    names.push_back(line.substr(0, tab));
+    std::ofstream(fs::path(voice()) / line.substr(tab + 1)) << "";
   }
+  ASSERT_GT(names.size(), 50u);
   std::string log;
   EXPECT_EQ(run("prompts -l uk --check " + voice(), &log), 0) << log;
-  EXPECT_NE(log.find("0 of " + std::to_string(all.size()) + " recordings missing"), std::string::npos) << log;
+  EXPECT_NE(log.find("0 of " + std::to_string(names.size()) + " recordings missing"), std::string::npos)
+      << log;
 
-  fs::remove(fs::path(voice()) / (all[7] + ".wav"));
+  fs::remove(fs::path(voice()) / (names[7] + ".wav"));
   EXPECT_EQ(run("prompts -l uk --check " + voice(), &log), 1);
-  EXPECT_EQ(log.substr(0, log.find('\n')), all[7]);
+  EXPECT_EQ(log.substr(0, log.find('\n')), names[7]);
 }
 
 }  // namespace
