@@ -45,6 +45,9 @@ def test_text_must_be_str():
 def test_loads_the_library_named_by_the_environment():
     assert os.path.samefile(vela.library_path, os.environ["VELA_LIBRARY"])
     # Without the variable, a fresh interpreter still finds the build tree's library.
+    tree_library = os.path.join(os.path.dirname(vela.__file__), "..", "..", "build", "libvela.so")
+    if not os.path.exists(tree_library):
+        pytest.skip("no build/ directory beside the sources")
     env = {k: v for k, v in os.environ.items() if k != "VELA_LIBRARY"}
     out = subprocess.run(
         [sys.executable, "-c", "import vela; print(vela.speak('ru', '5'))"],
