@@ -1,0 +1,96 @@
+#include "languages/centralasian/kazah_grammar.h"
+
+#include "languages/centralasian/kazakh_design.h"
+
+namespace vela {
+namespace {
+
+using centralasian::KeyWord;
+
+constexpr centralasian::KazakhStyleNumbers kNumbers = {
+    //  0       1            2           3           4           5           6           7            8 9
+    .ones = {"nol", "bir", "eki", "ush", "tort", "bes", "alty", "zheti", "segiz", "togyz"},
+    .ordinalOnes = {"nol", "birinshi", "ekinshi", "ushinshi", "tortinshi", "besinshi", "altynshy",
+                    "zhetinshi", "segizinshi", "togyzynshy"},
+    .tens = {"", "on", "zhiyrma", "otyz", "qyryq", "elu", "alpys", "zhetpis", "seksen", "toqsan"},
+    .ordinalTens = {"", "onynshy", "zhiyrmasynshy", "otyzynshy", "qyrqynshy", "eluinshi", "alpysynshy",
+                    "zhetpisinshi", "sekseninshi", "toqsanynshy"},
+    .zero = " nol",
+    .hundred = {" zhuz", "inshi"},
+    .thousand = {" myng", "ynshy"},
+    .million = {" million", "inshi"},
+    .milliard = {" milliard", "ynshy"},
+};
+
+// key     word
+constexpr KeyWord kUnits[] = {
+    {"d", "dollar"},      {"usd", "dollar"}, {"rub", "rubl"},    {"kzt", "tenge"},    {"ab", "abonent"},
+    {"mes", "habarlama"}, {"num", "nomir"},  {"fax", "faks"},    {"h", "sagat"},      {"min", "minut"},
+    {"sec", "sekund"},    {"ed", "edinkaz"}, {"eye", "edinkaz"}, {"unit", "edinkaz"},
+};
+
+// key -> minor unit; "rub" takes "diram" and "kzt" the spelling "tiyn".
+constexpr KeyWord kCurrencies[] = {
+    {"d", "tsent"},
+    {"usd", "tsent"},
+    {"rub", "diram"},
+    {"kzt", "tiyn"},
+};
+
+constexpr KeyWord kSymbols[] = {
+    {"*", "zhuldyzsha"}, {"#", "panjara"}, {"?", "soroq_belgisi"}, {"_", "ost_chiziqcha"}, {"%", "foiz"},
+};
+
+const centralasian::FamilyTables kTables = {
+    .units = kUnits,
+    .currencies = kCurrencies,
+    .symbols = kSymbols,
+    .digitWords = kNumbers.ones,
+    .leadingZero = " nol",
+    .beforePieceNumber = "",
+    // Month 0 is not a month: its slot says "nuhsad".
+    .months = {"nuhsad", "qangtarynda", "aqpanynda", "nauryzynda", "sauirinde", "mamyrynda", "mausymynda",
+               "shildesinde", "tamyzynda", "qyrqujeginde", "qazanynda", "qarashasynda", "zheltoqsanynda"},
+    .duration = {.zeroHours = "nol ",
+                 .hoursWord = " sagat ",
+                 .zeroMinutes = " nol ",
+                 .minutesWord = " minuttan"},
+    .clock = {.minutesEnd = " minutta", .beforeSeconds = " minut", .secondsEnd = " sekundta"},
+    .amounts = {.zeroTimeUnit = "nol ", .absence = " zhoq", .zeroAmount = "nol ", .glideBeforeMinor = false},
+};
+
+const centralasian::KazakhStyleLanguage kLanguage = {
+    .numbers = &kNumbers,
+    .tables = &kTables,
+    .yearWord = " zhyldyng",
+    .hoursLead = "",
+    .hoursWord = " sagat",
+};
+
+}  // namespace
+
+const centralasian::FamilyTables& KazahGrammar::tables() { return kTables; }
+
+void KazahGrammar::speakInteger(const std::string& digits, std::string& out, bool ordinal) {
+  centralasian::speakKazakhInteger(kNumbers, digits, out, ordinal);
+}
+
+void KazahGrammar::speakCardinal(const std::string& digits, std::string& out) {
+  speakInteger(digits, out, false);
+}
+
+// Year, day, month: "eki myng segizinshi zhyldyng besinshi qangtarynda".
+int KazahGrammar::speakDate(const std::string& day, const std::string& month, const std::string& year,
+                            const std::string&, const std::string&, std::string& out) {
+  return centralasian::speakKazakhDate(kLanguage, day, month, year, out);
+}
+
+void KazahGrammar::speakHoursPhrase(const std::string& hours, const std::string& minutes, std::string& out) {
+  centralasian::speakKazakhHours(kLanguage, hours, minutes, out);
+}
+
+void KazahGrammar::speakSeconds(const std::string& seconds, std::string& out) {
+  centralasian::speakKazakhClockGroup(kLanguage, seconds, out);
+}
+
+}  // namespace vela

@@ -1,0 +1,99 @@
+#include "languages/centralasian/uzbek_grammar.h"
+
+#include "languages/centralasian/kazakh_design.h"
+
+namespace vela {
+namespace {
+
+using centralasian::KeyWord;
+
+// Latin Uzbek in lower-case ASCII: oʻ and gʻ are written o and g, the
+// apostrophe is dropped (toʻrt -> tort, oʻn -> on, toʻqqiz -> toqqiz).
+constexpr centralasian::KazakhStyleNumbers kNumbers = {
+    .ones = {"nol", "bir", "ikki", "uch", "tort", "besh", "olti", "yetti", "sakkiz", "toqqiz"},
+    .ordinalOnes = {"nol", "birinchi", "ikkinchi", "uchinchi", "tortinchi", "beshinchi", "oltinchi",
+                    "yettinchi", "sakkizinchi", "toqqizinchi"},
+    .tens = {"", "on", "yigirma", "ottiz", "qirq", "ellik", "oltmish", "yetmish", "sakson", "toqson"},
+    .ordinalTens = {"", "oninchi", "yigirmanchi", "ottizinchi", "qirqinchi", "ellikinchi", "oltmishinchi",
+                    "yetmishinchi", "saksoninchi", "toqsoninchi"},
+    .zero = " nol",
+    .hundred = {" yuz", "inchi"},
+    .thousand = {" ming", "inchi"},
+    .million = {" million", "inchi"},
+    .milliard = {" milliard", "inchi"},
+};
+
+// key     word
+constexpr KeyWord kUnits[] = {
+    {"d", "dollar"},   {"usd", "dollar"}, {"rub", "rubl"},   {"uzs", "som"},     {"ab", "abonent"},
+    {"mes", "xabar"},  {"num", "raqam"},  {"fax", "faks"},   {"h", "soat"},      {"min", "daqiqa"},
+    {"sec", "soniya"}, {"ed", "birlik"},  {"eye", "birlik"}, {"unit", "birlik"},
+};
+
+// key -> minor unit
+constexpr KeyWord kCurrencies[] = {
+    {"d", "sent"},
+    {"usd", "sent"},
+    {"rub", "kopeyka"},
+    {"uzs", "tiyin"},
+};
+
+constexpr KeyWord kSymbols[] = {
+    {"*", "yulduzcha"}, {"#", "panjara"}, {"?", "soroq_belgisi"}, {"_", "ost_chiziqcha"}, {"%", "foiz"},
+};
+
+const centralasian::FamilyTables kTables = {
+    .units = kUnits,
+    .currencies = kCurrencies,
+    .symbols = kSymbols,
+    .digitWords = kNumbers.ones,
+    .leadingZero = " nol",
+    .beforePieceNumber = "",
+    // Month 0 is no month and says nothing.
+    .months = {"", "yanvar", "fevral", "mart", "aprel", "may", "iyun", "iyul", "avgust", "sentabr", "oktabr",
+               "noyabr", "dekabr"},
+    // "\"1:30\"": bir soat ottiz daqiqa
+    .duration = {.zeroHours = "nol ",
+                 .hoursWord = " soat ",
+                 .zeroMinutes = " nol ",
+                 .minutesWord = " daqiqa"},
+    // "7:05": soat yetti besh daqiqa; "7:05:30": ... besh daqiqa ottiz soniya
+    .clock = {.minutesEnd = " daqiqa", .beforeSeconds = " daqiqa", .secondsEnd = " soniya"},
+    .amounts = {.zeroTimeUnit = "nol ", .absence = " yoq", .zeroAmount = "nol ", .glideBeforeMinor = false},
+};
+
+// "5.01.2008": ikki ming sakkizinchi yil beshinchi yanvar
+const centralasian::KazakhStyleLanguage kLanguage = {
+    .numbers = &kNumbers,
+    .tables = &kTables,
+    .yearWord = " yil",
+    .hoursLead = " soat",
+    .hoursWord = "",
+};
+
+}  // namespace
+
+const centralasian::FamilyTables& UzbekGrammar::tables() { return kTables; }
+
+void UzbekGrammar::speakInteger(const std::string& digits, std::string& out, bool ordinal) {
+  centralasian::speakKazakhInteger(kNumbers, digits, out, ordinal);
+}
+
+void UzbekGrammar::speakCardinal(const std::string& digits, std::string& out) {
+  speakInteger(digits, out, false);
+}
+
+int UzbekGrammar::speakDate(const std::string& day, const std::string& month, const std::string& year,
+                            const std::string&, const std::string&, std::string& out) {
+  return centralasian::speakKazakhDate(kLanguage, day, month, year, out);
+}
+
+void UzbekGrammar::speakHoursPhrase(const std::string& hours, const std::string& minutes, std::string& out) {
+  centralasian::speakKazakhHours(kLanguage, hours, minutes, out);
+}
+
+void UzbekGrammar::speakSeconds(const std::string& seconds, std::string& out) {
+  centralasian::speakKazakhClockGroup(kLanguage, seconds, out);
+}
+
+}  // namespace vela
