@@ -37,23 +37,41 @@ constexpr std::array<const char*, 10> kHundreds = {
 };
 
 // key     word
+// clang-format off
 constexpr KeyWord kUnits[] = {
-    {"d", " dolar"},   {"rub", " rubli"}, {"amd", " dram"}, {"ab", " badganord"}, {"mes", " hakhordagrutjun"},
-    {"num", " hamar"}, {"fax", " faqs"},  {"h", " dgam"},   {"min", " rope"},     {"sec", " vajrkjan"},
+    {"d",   " dolar"},
+    {"rub", " rubli"},
+    {"amd", " dram"},
+    {"ab",  " badganord"},
+    {"mes", " hakhordagrutjun"},
+    {"num", " hamar"},
+    {"fax", " faqs"},
+    {"h",   " dgam"},
+    {"min", " rope"},
+    {"sec", " vajrkjan"},
     {"eur", " evro"},
 };
+// clang-format on
 
 // key -> minor unit; " сent" begins with the Cyrillic letter с (byte F1).
+// clang-format off
 constexpr KeyWord kCurrencies[] = {
-    {"d", " сent"_cp},
+    {"d",   " сent"_cp},
     {"rub", " kopek"},
     {"amd", " luma"},
     {"eur", " сent"_cp},
 };
+// clang-format on
 
+// clang-format off
 constexpr KeyWord kSymbols[] = {
-    {"*", " astkhanish"}, {"#", " vandakanish"}, {"?", " hartsakan nshan"}, {"_", " _"}, {"%", " tokos"},
+    {"*", " astkhanish"},
+    {"#", " vandakanish"},
+    {"?", " hartsakan nshan"},
+    {"_", " _"},
+    {"%", " tokos"},
 };
+// clang-format on
 
 const centralasian::FamilyTables kTables = {
     .units = kUnits,
@@ -108,7 +126,7 @@ void ArmjanGrammar::speakGroup(const DigitGroup& group, std::string& out, bool w
 void ArmjanGrammar::speakInteger(const std::string& digits, std::string& out) {
   const DigitGroup g9 = groupOf(digits, 9), g6 = groupOf(digits, 6), g3 = groupOf(digits, 3),
                    g0 = groupOf(digits, 0);
-  const bool b = g9.value != 0, m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
+  const bool b = hasDigits(g9), m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
   if (b) {
     speakGroup(g9, out, false);
     out += " miliard";
@@ -159,7 +177,12 @@ void ArmjanGrammar::speakHoursPhrase(const std::string& hours, const std::string
 // tasy tasnhing hing, and 01..09 only their units word.
 void ArmjanGrammar::speakSeconds(const std::string& seconds, std::string& out) {
   DigitGroup group = groupOf(seconds, 0);
-  group.tens = group.teen != 0 ? group.teen : group.tens + group.units;
+  if (group.teen != 0) {
+    group.tens = group.teen;
+    group.units = group.teen - 10;
+  } else {
+    group.tens += group.units;
+  }
   group.hundreds /= 100;
   speakGroup(group, out, false);
 }

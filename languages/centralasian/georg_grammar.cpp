@@ -137,23 +137,44 @@ constexpr Forms kMilliard = {" milliard", " milliardi"};
 constexpr Forms kZeroGroup = {" null", " nuli"};
 
 // key     word
+// clang-format off
 constexpr KeyWord kUnits[] = {
-    {"d", "dolari"},         {"usd", "dolari"},  {"rub", "rubl"},     {"gel", "lari"},   {"ab", "abonenti"},
-    {"mes", "shetkobineba"}, {"num", "nomeri"},  {"fax", "faqsi"},    {"h", "saati"},    {"min", "tsuti"},
-    {"sec", "tsami"},        {"eye", "erteuli"}, {"unit", "erteuli"}, {"ed", "erteuli"},
+    {"d",    "dolari"},
+    {"usd",  "dolari"},
+    {"rub",  "rubl"},
+    {"gel",  "lari"},
+    {"ab",   "abonenti"},
+    {"mes",  "shetkobineba"},
+    {"num",  "nomeri"},
+    {"fax",  "faqsi"},
+    {"h",    "saati"},
+    {"min",  "tsuti"},
+    {"sec",  "tsami"},
+    {"eye",  "erteuli"},
+    {"unit", "erteuli"},
+    {"ed",   "erteuli"},
 };
+// clang-format on
 
 // key -> minor unit
+// clang-format off
 constexpr KeyWord kCurrencies[] = {
-    {"d", "tsenti"},
+    {"d",   "tsenti"},
     {"usd", "tsenti"},
     {"rub", "kopejka"},
     {"gel", "tetri"},
 };
+// clang-format on
 
+// clang-format off
 constexpr KeyWord kSymbols[] = {
-    {"*", "varskvlavi"}, {"#", "bade"}, {"?", "kitkhvis_nishani"}, {"_", "qveda_khazi"}, {"%", "protsenti"},
+    {"*", "varskvlavi"},
+    {"#", "bade"},
+    {"?", "kitkhvis_nishani"},
+    {"_", "qveda_khazi"},
+    {"%", "protsenti"},
 };
+// clang-format on
 
 const centralasian::FamilyTables kTables = {
     .units = kUnits,
@@ -232,7 +253,7 @@ void GeorgGrammar::speakInteger(const std::string& digits, std::string& out, boo
   const DigitGroup g3 = normalisedGroup(digits, 3);
   const DigitGroup g0 = normalisedGroup(digits, 0);
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
-  if (g9.value != 0) {
+  if (hasDigits(g9)) {
     speakNormalisedGroup(g9, out, true);
     out += form(kMilliard, final && !m && !t && !u);
   }

@@ -8,7 +8,6 @@ namespace {
 using centralasian::KeyWord;
 
 constexpr centralasian::KazakhStyleNumbers kNumbers = {
-    //  0       1            2           3           4           5           6           7            8 9
     .ones = {"nol", "bir", "eki", "ush", "tort", "bes", "alty", "zheti", "segiz", "togyz"},
     .ordinalOnes = {"nol", "birinshi", "ekinshi", "ushinshi", "tortinshi", "besinshi", "altynshy",
                     "zhetinshi", "segizinshi", "togyzynshy"},
@@ -23,23 +22,44 @@ constexpr centralasian::KazakhStyleNumbers kNumbers = {
 };
 
 // key     word
+// clang-format off
 constexpr KeyWord kUnits[] = {
-    {"d", "dollar"},      {"usd", "dollar"}, {"rub", "rubl"},    {"kzt", "tenge"},    {"ab", "abonent"},
-    {"mes", "habarlama"}, {"num", "nomir"},  {"fax", "faks"},    {"h", "sagat"},      {"min", "minut"},
-    {"sec", "sekund"},    {"ed", "edinkaz"}, {"eye", "edinkaz"}, {"unit", "edinkaz"},
+    {"d",    "dollar"},
+    {"usd",  "dollar"},
+    {"rub",  "rubl"},
+    {"kzt",  "tenge"},
+    {"ab",   "abonent"},
+    {"mes",  "habarlama"},
+    {"num",  "nomir"},
+    {"fax",  "faks"},
+    {"h",    "sagat"},
+    {"min",  "minut"},
+    {"sec",  "sekund"},
+    {"ed",   "edinkaz"},
+    {"eye",  "edinkaz"},
+    {"unit", "edinkaz"},
 };
+// clang-format on
 
 // key -> minor unit; "rub" takes "diram" and "kzt" the spelling "tiyn".
+// clang-format off
 constexpr KeyWord kCurrencies[] = {
-    {"d", "tsent"},
+    {"d",   "tsent"},
     {"usd", "tsent"},
     {"rub", "diram"},
     {"kzt", "tiyn"},
 };
+// clang-format on
 
+// clang-format off
 constexpr KeyWord kSymbols[] = {
-    {"*", "zhuldyzsha"}, {"#", "panjara"}, {"?", "soroq_belgisi"}, {"_", "ost_chiziqcha"}, {"%", "foiz"},
+    {"*", "zhuldyzsha"},
+    {"#", "panjara"},
+    {"?", "soroq_belgisi"},
+    {"_", "ost_chiziqcha"},
+    {"%", "foiz"},
 };
+// clang-format on
 
 const centralasian::FamilyTables kTables = {
     .units = kUnits,

@@ -50,6 +50,8 @@ void speakKazakhGroup(const KazakhStyleNumbers& numbers, DigitGroup group, std::
   out += text;
 }
 
+// Only the last twelve digits are read: the milliards group counts its own
+// three digits, never the value of everything above them.
 // Higher groups are always cardinal; the ordinal mark goes on the units group
 // or, when it is empty, on the last scale word. A cardinal keeps every group.
 void speakKazakhInteger(const KazakhStyleNumbers& numbers, const std::string& digits, std::string& out,
@@ -61,7 +63,7 @@ void speakKazakhInteger(const KazakhStyleNumbers& numbers, const std::string& di
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
 
   bool thousandsNext = false;  // an ordinal milliard with thousands skips the millions
-  if (g9.value != 0) {
+  if (hasDigits(g9)) {
     speakKazakhGroup(numbers, g9, out, false);
     out += numbers.milliard.word;
     if (ordinal && !m) {

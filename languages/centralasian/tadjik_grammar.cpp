@@ -25,23 +25,44 @@ constexpr std::array<const char*, 10> kHundreds = {
 };
 
 // key     word
+// clang-format off
 constexpr KeyWord kUnits[] = {
-    {"d", "dollar"},   {"usd", "dollar"}, {"rub", "rubl"},     {"tjs", "somoni"}, {"ab", "mushtari"},
-    {"mes", "habar"},  {"fax", "faks"},   {"num", "raqamash"}, {"h", "soat"},     {"min", "daqiqa"},
-    {"sec", "soniya"}, {"eye", "vohid"},  {"unit", "vohid"},   {"ed", "vohid"},
+    {"d",    "dollar"},
+    {"usd",  "dollar"},
+    {"rub",  "rubl"},
+    {"tjs",  "somoni"},
+    {"ab",   "mushtari"},
+    {"mes",  "habar"},
+    {"fax",  "faks"},
+    {"num",  "raqamash"},
+    {"h",    "soat"},
+    {"min",  "daqiqa"},
+    {"sec",  "soniya"},
+    {"eye",  "vohid"},
+    {"unit", "vohid"},
+    {"ed",   "vohid"},
 };
+// clang-format on
 
 // key -> minor unit
+// clang-format off
 constexpr KeyWord kCurrencies[] = {
-    {"d", "sent"},
+    {"d",   "sent"},
     {"usd", "sent"},
     {"rub", "diram"},
     {"tjs", "diram"},
 };
+// clang-format on
 
+// clang-format off
 constexpr KeyWord kSymbols[] = {
-    {"*", "sitoracha"}, {"#", "panjara"}, {"?", "alomati_savol"}, {"_", "defisi_poyoni"}, {"%", "foiz"},
+    {"*", "sitoracha"},
+    {"#", "panjara"},
+    {"?", "alomati_savol"},
+    {"_", "defisi_poyoni"},
+    {"%", "foiz"},
 };
+// clang-format on
 
 const centralasian::FamilyTables kTables = {
     .units = kUnits,
@@ -117,7 +138,7 @@ void TadjikGrammar::speakInteger(const std::string& digits, std::string& out) {
   getDigitGroup(digits, &g3, 3);
   getDigitGroup(digits, &g0, 0);
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
-  if (g9.value != 0) appendScale(g9, " milliard", m || t || u, out);
+  if (hasDigits(g9)) appendScale(g9, " milliard", m || t || u, out);
   if (m) appendScale(g6, " million", t || u, out);
   if (t) appendScale(g3, " hazor", u, out);
   if (u) {
@@ -126,9 +147,11 @@ void TadjikGrammar::speakInteger(const std::string& digits, std::string& out) {
   }
 }
 
+// A number that says nothing (a date without its year) takes no suffix either.
 void TadjikGrammar::speakOrdinal(const std::string& digits, std::string& out) {
   std::string text;
   speakInteger(digits, text);
+  if (text.empty()) return;
   centralasian::appendGlide(text);
   text += "um";
   out += text;

@@ -24,23 +24,44 @@ constexpr centralasian::KazakhStyleNumbers kNumbers = {
 };
 
 // key     word
+// clang-format off
 constexpr KeyWord kUnits[] = {
-    {"d", "dollar"},   {"usd", "dollar"}, {"rub", "rubl"},   {"uzs", "som"},     {"ab", "abonent"},
-    {"mes", "xabar"},  {"num", "raqam"},  {"fax", "faks"},   {"h", "soat"},      {"min", "daqiqa"},
-    {"sec", "soniya"}, {"ed", "birlik"},  {"eye", "birlik"}, {"unit", "birlik"},
+    {"d",    "dollar"},
+    {"usd",  "dollar"},
+    {"rub",  "rubl"},
+    {"uzs",  "som"},
+    {"ab",   "abonent"},
+    {"mes",  "xabar"},
+    {"num",  "raqam"},
+    {"fax",  "faks"},
+    {"h",    "soat"},
+    {"min",  "daqiqa"},
+    {"sec",  "soniya"},
+    {"ed",   "birlik"},
+    {"eye",  "birlik"},
+    {"unit", "birlik"},
 };
+// clang-format on
 
 // key -> minor unit
+// clang-format off
 constexpr KeyWord kCurrencies[] = {
-    {"d", "sent"},
+    {"d",   "sent"},
     {"usd", "sent"},
     {"rub", "kopeyka"},
     {"uzs", "tiyin"},
 };
+// clang-format on
 
+// clang-format off
 constexpr KeyWord kSymbols[] = {
-    {"*", "yulduzcha"}, {"#", "panjara"}, {"?", "soroq_belgisi"}, {"_", "ost_chiziqcha"}, {"%", "foiz"},
+    {"*", "yulduzcha"},
+    {"#", "panjara"},
+    {"?", "soroq_belgisi"},
+    {"_", "ost_chiziqcha"},
+    {"%", "foiz"},
 };
+// clang-format on
 
 const centralasian::FamilyTables kTables = {
     .units = kUnits,
