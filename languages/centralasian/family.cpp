@@ -45,11 +45,15 @@ bool isTimeUnit(const std::string& unit) { return unit == "h" || unit == "min" |
 
 }  // namespace
 
+// A number with a fraction given bare ("32.1") is read as two numbers, like
+// dash-separated ones: its separator is never taken for a digit.
+constexpr const char* kPieceSeparators = "-.,";
+
 void speakDashedNumber(const FamilyTables& tables, NumberSpeller speakNumber, const std::string& token,
                        std::string& out) {
   std::size_t start = 0;
   for (;;) {
-    const std::size_t dash = token.find('-', start);
+    const std::size_t dash = token.find_first_of(kPieceSeparators, start);
     speakPiece(tables, speakNumber, token.substr(start, dash - start), out);
     if (dash == std::string::npos) return;
     start = dash + 1;

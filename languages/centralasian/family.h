@@ -89,8 +89,9 @@ const char* wordAt(const std::array<const char*, N>& table, int index) {
 // A whole number read by a language's speller, for the shared algorithms.
 using NumberSpeller = void (*)(const std::string& digits, std::string& out);
 
-// Dash-separated pieces: each leading "0" says the zero word, the rest of the
-// piece is read as one number (007 is zero, zero, seven).
+// Pieces separated by "-" (or the "." / "," of a bare fraction): each leading
+// "0" says the zero word, the rest of the piece is read as one number (007 is
+// zero, zero, seven; 32.1 is thirty-two, one).
 void speakDashedNumber(const FamilyTables& tables, NumberSpeller speakNumber, const std::string& token,
                        std::string& out);
 

@@ -16,6 +16,8 @@ const Reading kKazakh[] = {
     {"0", "nol"},
     {"007", "nol nol zheti"},
     {"12-05", "on eki nol bes"},
+    {"32.1", "otyz eki bir"},
+    {"0,25", "nol zhiyrma bes"},
     {"100", "zhuz"},
     {"111", "zhuz on bir"},
     {"115", "zhuz on bes"},

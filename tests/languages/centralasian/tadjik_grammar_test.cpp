@@ -33,6 +33,7 @@ const Reading kTajik[] = {
     {"3000000000", "se milliard"},
     {"0105", "sifr sadu panj"},
     {"5-500", "panj panjsad"},
+    {"0,25", "sifr bistu panj"},
     {"2000000000001", "yak"},
     // Dates: ordinal day with "i", month with "i soli", ordinal year; month 0
     // says slot 0; a date without a year says no year.
