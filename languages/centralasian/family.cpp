@@ -1,7 +1,6 @@
 #include "languages/centralasian/family.h"
 
 #include <cstdio>
-#include <cstring>
 
 namespace vela::centralasian {
 
@@ -145,7 +144,9 @@ void speakDuration(const FamilyTables& tables, NumberSpeller speakNumber, const 
 }
 
 void appendGlide(std::string& text) {
-  if (!text.empty() && std::strchr("iaue", text.back()) != nullptr && text.back() != '\0') text += "y";
+  if (text.empty()) return;
+  const char last = text.back();
+  if (last == 'i' || last == 'a' || last == 'u' || last == 'e') text += "y";
 }
 
 bool hoursAccepted(const std::string& hours, DigitGroup& group) {
