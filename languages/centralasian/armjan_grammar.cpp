@@ -7,6 +7,8 @@
 namespace vela {
 namespace {
 
+using centralasian::groupOf;
+using centralasian::hasDigits;
 using centralasian::KeyWord;
 using centralasian::wordAt;
 
@@ -88,18 +90,10 @@ const centralasian::FamilyTables kTables = {
     .amounts = {},  // counts and money are its own
 };
 
-bool hasDigits(const DigitGroup& g) { return g.hundreds != 0 || g.tens != 0 || g.teen != 0 || g.units != 0; }
-
 // The case ending after a number word: "n", or "sn" after 2 and 12 ("in" / "sin" in dates).
 void appendCase(int value, const char* ending, std::string& out) {
   if (value == 2 || value == 12) out += "s";
   out += ending;
-}
-
-DigitGroup groupOf(const std::string& digits, int cut) {
-  DigitGroup group;
-  getDigitGroup(digits, &group, cut);
-  return group;
 }
 
 }  // namespace
@@ -177,13 +171,7 @@ void ArmjanGrammar::speakHoursPhrase(const std::string& hours, const std::string
 // tasy tasnhing hing, and 01..09 only their units word.
 void ArmjanGrammar::speakSeconds(const std::string& seconds, std::string& out) {
   DigitGroup group = groupOf(seconds, 0);
-  if (group.teen != 0) {
-    group.tens = group.teen;
-    group.units = group.teen - 10;
-  } else {
-    group.tens += group.units;
-  }
-  group.hundreds /= 100;
+  centralasian::normaliseLastTwo(group);
   speakGroup(group, out, false);
 }
 

@@ -23,6 +23,32 @@ const char* findSymbol(const FamilyTables& tables, const std::string& token) {
   return "";
 }
 
+DigitGroup groupOf(const std::string& digits, int cut) {
+  DigitGroup group;
+  getDigitGroup(digits, &group, cut);
+  return group;
+}
+
+bool hasDigits(const DigitGroup& group) {
+  return group.hundreds != 0 || group.tens != 0 || group.teen != 0 || group.units != 0;
+}
+
+void normaliseTeen(DigitGroup& group) {
+  if (group.teen == 0) return;
+  group.tens = 10;
+  group.units = group.teen - 10;
+}
+
+void normaliseLastTwo(DigitGroup& group) {
+  if (group.teen != 0) {
+    group.tens = group.teen;
+    group.units = group.teen - 10;
+  } else {
+    group.tens += group.units;
+  }
+  group.hundreds /= 100;
+}
+
 namespace {
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }

@@ -86,6 +86,20 @@ const char* wordAt(const std::array<const char*, N>& table, int index) {
   return table[index];
 }
 
+// The group of `digits` above a cut of trailing digits (9, 6, 3, 0).
+DigitGroup groupOf(const std::string& digits, int cut);
+
+// Whether any digit of the group's own three is non-zero (the milliards group
+// too: only the last twelve digits of a number are read).
+bool hasDigits(const DigitGroup& group);
+
+// 11..19 as ten and a digit: tens 10, units teen - 10 (teen is kept).
+void normaliseTeen(DigitGroup& group);
+
+// The last two digits as one number 0..99 in tens, units the last digit (1
+// for 11), hundreds as its digit.
+void normaliseLastTwo(DigitGroup& group);
+
 // A whole number read by a language's speller, for the shared algorithms.
 using NumberSpeller = void (*)(const std::string& digits, std::string& out);
 

@@ -201,24 +201,11 @@ const char* form(const Forms& forms, bool final) { return final ? forms.final : 
 
 // The last two digits become one index 0..99 (tens), the hundreds a digit;
 // units keeps the last digit (1 for 11, 21, ...).
-void normalise(DigitGroup& group) {
-  if (group.teen != 0) {
-    group.tens = group.teen;
-    group.units = group.teen - 10;
-  } else {
-    group.tens += group.units;
-  }
-  group.hundreds /= 100;
-}
-
 DigitGroup normalisedGroup(const std::string& digits, int cut) {
-  DigitGroup group;
-  getDigitGroup(digits, &group, cut);
-  normalise(group);
+  DigitGroup group = centralasian::groupOf(digits, cut);
+  centralasian::normaliseLastTwo(group);
   return group;
 }
-
-bool hasDigits(const DigitGroup& g) { return g.hundreds != 0 || g.tens != 0 || g.units != 0; }
 
 void speakNormalisedGroup(const DigitGroup& group, std::string& out, bool final) {
   std::string text = " ";
@@ -241,7 +228,7 @@ void speakNormalisedGroup(const DigitGroup& group, std::string& out, bool final)
 const centralasian::FamilyTables& GeorgGrammar::tables() { return kTables; }
 
 void GeorgGrammar::speakGroup(DigitGroup group, std::string& out, bool final) {
-  normalise(group);
+  centralasian::normaliseLastTwo(group);
   speakNormalisedGroup(group, out, final);
 }
 
@@ -252,6 +239,7 @@ void GeorgGrammar::speakInteger(const std::string& digits, std::string& out, boo
   const DigitGroup g6 = normalisedGroup(digits, 6);
   const DigitGroup g3 = normalisedGroup(digits, 3);
   const DigitGroup g0 = normalisedGroup(digits, 0);
+  using centralasian::hasDigits;
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
   if (hasDigits(g9)) {
     speakNormalisedGroup(g9, out, true);

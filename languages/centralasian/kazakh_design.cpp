@@ -3,19 +3,6 @@
 namespace vela::centralasian {
 namespace {
 
-// 11..19 are said as ten and a digit ("on bes").
-DigitGroup normalisedGroup(const std::string& digits, int cut) {
-  DigitGroup group;
-  getDigitGroup(digits, &group, cut);
-  if (group.teen != 0) {
-    group.tens = 10;
-    group.units = group.teen - 10;
-  }
-  return group;
-}
-
-bool hasDigits(const DigitGroup& g) { return g.hundreds != 0 || g.tens != 0 || g.teen != 0 || g.units != 0; }
-
 // A scale word with nothing after it: its ordinal suffix fuses onto it.
 void endOnScale(const KazakhStyleNumbers& numbers, const DigitGroup& units, const ScaleWord& scale,
                 std::string& out) {
@@ -27,11 +14,9 @@ void endOnScale(const KazakhStyleNumbers& numbers, const DigitGroup& units, cons
 
 }  // namespace
 
+// 11..19 are said as ten and a digit ("on bes").
 void speakKazakhGroup(const KazakhStyleNumbers& numbers, DigitGroup group, std::string& out, bool ordinal) {
-  if (group.teen != 0) {
-    group.tens = 10;
-    group.units = group.teen - 10;
-  }
+  normaliseTeen(group);
   std::string text = " ";
   if (group.value == 0) text += numbers.zero;
   if (group.hundreds != 0) {
@@ -56,10 +41,8 @@ void speakKazakhGroup(const KazakhStyleNumbers& numbers, DigitGroup group, std::
 // or, when it is empty, on the last scale word. A cardinal keeps every group.
 void speakKazakhInteger(const KazakhStyleNumbers& numbers, const std::string& digits, std::string& out,
                         bool ordinal) {
-  const DigitGroup g9 = normalisedGroup(digits, 9);
-  const DigitGroup g6 = normalisedGroup(digits, 6);
-  const DigitGroup g3 = normalisedGroup(digits, 3);
-  const DigitGroup g0 = normalisedGroup(digits, 0);
+  const DigitGroup g9 = groupOf(digits, 9), g6 = groupOf(digits, 6), g3 = groupOf(digits, 3),
+                   g0 = groupOf(digits, 0);
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
 
   bool thousandsNext = false;  // an ordinal milliard with thousands skips the millions
@@ -113,9 +96,7 @@ void speakKazakhHours(const KazakhStyleLanguage& language, const std::string& ho
 }
 
 void speakKazakhClockGroup(const KazakhStyleLanguage& language, const std::string& digits, std::string& out) {
-  DigitGroup group;
-  getDigitGroup(digits, &group, 0);
-  speakKazakhGroup(*language.numbers, group, out, false);
+  speakKazakhGroup(*language.numbers, groupOf(digits, 0), out, false);
 }
 
 }  // namespace vela::centralasian

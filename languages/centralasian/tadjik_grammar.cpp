@@ -83,8 +83,6 @@ const centralasian::FamilyTables kTables = {
     .amounts = {.zeroTimeUnit = "nol ", .absence = " nest", .zeroAmount = "nol ", .glideBeforeMinor = true},
 };
 
-bool hasDigits(const DigitGroup& g) { return g.hundreds != 0 || g.tens != 0 || g.teen != 0 || g.units != 0; }
-
 // The connective after a scale word, when anything follows it.
 void appendScale(const DigitGroup& group, const char* scale, bool more, std::string& out) {
   TadjikGrammar::speakGroup(group, out);
@@ -97,10 +95,7 @@ void appendScale(const DigitGroup& group, const char* scale, bool more, std::str
 const centralasian::FamilyTables& TadjikGrammar::tables() { return kTables; }
 
 void TadjikGrammar::speakGroup(DigitGroup group, std::string& out) {
-  if (group.teen != 0) {
-    group.tens = 10;
-    group.units = group.teen - 10;
-  }
+  centralasian::normaliseTeen(group);
   std::string text;
   if (group.value == 0) text += " nol";
   const bool rest = group.tens != 0 || group.units != 0;
@@ -132,11 +127,9 @@ void TadjikGrammar::speakGroup(DigitGroup group, std::string& out) {
 // The connective follows a scale word whenever a lower group is spoken (the
 // last twelve digits decide, so a long number never overflows the test).
 void TadjikGrammar::speakInteger(const std::string& digits, std::string& out) {
-  DigitGroup g9, g6, g3, g0;
-  getDigitGroup(digits, &g9, 9);
-  getDigitGroup(digits, &g6, 6);
-  getDigitGroup(digits, &g3, 3);
-  getDigitGroup(digits, &g0, 0);
+  using centralasian::groupOf, centralasian::hasDigits;
+  const DigitGroup g9 = groupOf(digits, 9), g6 = groupOf(digits, 6), g3 = groupOf(digits, 3),
+                   g0 = groupOf(digits, 0);
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
   if (hasDigits(g9)) appendScale(g9, " milliard", m || t || u, out);
   if (m) appendScale(g6, " million", t || u, out);
@@ -176,20 +169,15 @@ int TadjikGrammar::speakDate(const std::string& day, const std::string& month, c
 
 // "soati haftu panj": the hours joined to the minutes by the connective.
 void TadjikGrammar::speakHoursPhrase(const std::string& hours, const std::string& minutes, std::string& out) {
-  DigitGroup group;
   out += " soati ";
-  getDigitGroup(hours, &group, 0);
-  speakGroup(group, out);
+  speakGroup(centralasian::groupOf(hours, 0), out);
   centralasian::appendGlide(out);
   out += "u";
-  getDigitGroup(minutes, &group, 0);
-  speakGroup(group, out);
+  speakGroup(centralasian::groupOf(minutes, 0), out);
 }
 
 void TadjikGrammar::speakSeconds(const std::string& seconds, std::string& out) {
-  DigitGroup group;
-  getDigitGroup(seconds, &group, 0);
-  speakGroup(group, out);
+  speakGroup(centralasian::groupOf(seconds, 0), out);
 }
 
 }  // namespace vela
