@@ -1,7 +1,5 @@
 #include "languages/centralasian/kazah_grammar.h"
 
-#include "languages/centralasian/kazakh_design.h"
-
 namespace vela {
 namespace {
 
@@ -89,28 +87,6 @@ const centralasian::KazakhStyleLanguage kLanguage = {
 
 }  // namespace
 
-const centralasian::FamilyTables& KazahGrammar::tables() { return kTables; }
-
-void KazahGrammar::speakInteger(const std::string& digits, std::string& out, bool ordinal) {
-  centralasian::speakKazakhInteger(kNumbers, digits, out, ordinal);
-}
-
-void KazahGrammar::speakCardinal(const std::string& digits, std::string& out) {
-  speakInteger(digits, out, false);
-}
-
-// Year, day, month: "eki myng segizinshi zhyldyng besinshi qangtarynda".
-int KazahGrammar::speakDate(const std::string& day, const std::string& month, const std::string& year,
-                            const std::string&, const std::string&, std::string& out) {
-  return centralasian::speakKazakhDate(kLanguage, day, month, year, out);
-}
-
-void KazahGrammar::speakHoursPhrase(const std::string& hours, const std::string& minutes, std::string& out) {
-  centralasian::speakKazakhHours(kLanguage, hours, minutes, out);
-}
-
-void KazahGrammar::speakSeconds(const std::string& seconds, std::string& out) {
-  centralasian::speakKazakhClockGroup(kLanguage, seconds, out);
-}
+const centralasian::KazakhStyleLanguage& KazahGrammar::language() { return kLanguage; }
 
 }  // namespace vela

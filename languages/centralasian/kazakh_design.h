@@ -9,6 +9,7 @@
 
 #include "grammar/helpers.h"
 #include "languages/centralasian/family.h"
+#include "languages/centralasian/family_grammar.h"
 
 namespace vela::centralasian {
 
@@ -57,3 +58,33 @@ void speakKazakhHours(const KazakhStyleLanguage& language, const std::string& ho
 void speakKazakhClockGroup(const KazakhStyleLanguage& language, const std::string& digits, std::string& out);
 
 }  // namespace vela::centralasian
+
+namespace vela {
+
+// The slots of a language built on the Kazakh design: T names its tables with
+// `static const centralasian::KazakhStyleLanguage& language()`.
+template <class T>
+class KazakhDesignGrammar : public CentralAsianGrammar<T> {
+ public:
+  // Year, day, month.
+  int speakDate(const std::string& day, const std::string& month, const std::string& year, const std::string&,
+                const std::string&, std::string& out) override {
+    return centralasian::speakKazakhDate(T::language(), day, month, year, out);
+  }
+
+  // A whole number, cardinal or ordinal (the ordinal mark on its last word).
+  static void speakInteger(const std::string& digits, std::string& out, bool ordinal) {
+    centralasian::speakKazakhInteger(*T::language().numbers, digits, out, ordinal);
+  }
+
+  static const centralasian::FamilyTables& tables() { return *T::language().tables; }
+  static void speakCardinal(const std::string& digits, std::string& out) { speakInteger(digits, out, false); }
+  static void speakHoursPhrase(const std::string& hours, const std::string& minutes, std::string& out) {
+    centralasian::speakKazakhHours(T::language(), hours, minutes, out);
+  }
+  static void speakSeconds(const std::string& seconds, std::string& out) {
+    centralasian::speakKazakhClockGroup(T::language(), seconds, out);
+  }
+};
+
+}  // namespace vela

@@ -1,7 +1,5 @@
 #include "languages/centralasian/uzbek_grammar.h"
 
-#include "languages/centralasian/kazakh_design.h"
-
 namespace vela {
 namespace {
 
@@ -94,27 +92,6 @@ const centralasian::KazakhStyleLanguage kLanguage = {
 
 }  // namespace
 
-const centralasian::FamilyTables& UzbekGrammar::tables() { return kTables; }
-
-void UzbekGrammar::speakInteger(const std::string& digits, std::string& out, bool ordinal) {
-  centralasian::speakKazakhInteger(kNumbers, digits, out, ordinal);
-}
-
-void UzbekGrammar::speakCardinal(const std::string& digits, std::string& out) {
-  speakInteger(digits, out, false);
-}
-
-int UzbekGrammar::speakDate(const std::string& day, const std::string& month, const std::string& year,
-                            const std::string&, const std::string&, std::string& out) {
-  return centralasian::speakKazakhDate(kLanguage, day, month, year, out);
-}
-
-void UzbekGrammar::speakHoursPhrase(const std::string& hours, const std::string& minutes, std::string& out) {
-  centralasian::speakKazakhHours(kLanguage, hours, minutes, out);
-}
-
-void UzbekGrammar::speakSeconds(const std::string& seconds, std::string& out) {
-  centralasian::speakKazakhClockGroup(kLanguage, seconds, out);
-}
+const centralasian::KazakhStyleLanguage& UzbekGrammar::language() { return kLanguage; }
 
 }  // namespace vela
