@@ -17,13 +17,15 @@ namespace vela {
 namespace {
 
 // Makes the grammar; with `unitKeys`, only lists its unit words there instead
-// (returns null, or the grammar itself when it lists none).
+// (and returns null).
 using Maker = IGrammar* (*)(unsigned char transliterated, std::vector<std::string>* unitKeys);
 
 template <class T>
 IGrammar* make(unsigned char, std::vector<std::string>* unitKeys) {
-  if (unitKeys != nullptr && listUnitKeysOf<T>(*unitKeys)) return nullptr;
-  return new T;
+  static_assert(ListsUnitKeys<T>, "a language class lists its unit words (grammar/unit_keys.h)");
+  if (unitKeys == nullptr) return new T;
+  T::listUnitKeys(*unitKeys);
+  return nullptr;
 }
 
 IGrammar* makeRussian(unsigned char transliterated, std::vector<std::string>* unitKeys) {
@@ -104,7 +106,7 @@ boost::shared_ptr<IGrammar> makeGrammar(const std::string& tag, unsigned char tr
   return boost::shared_ptr<IGrammar>(new EnglishGrammar);
 }
 
-bool listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys) {
+void listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys) {
   Maker maker = make<EnglishGrammar>;
   for (const TagRow& row : kTags) {
     if (tag == row.tag) {
@@ -112,9 +114,7 @@ bool listUnitKeys(const std::string& tag, unsigned char transliterated, std::vec
       break;
     }
   }
-  // A grammar that lists no keys was made instead: it is not needed.
-  const boost::shared_ptr<IGrammar> unused(maker(transliterated, &keys));
-  return unused == nullptr;
+  maker(transliterated, &keys);
 }
 
 }  // namespace vela

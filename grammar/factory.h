@@ -17,8 +17,7 @@ boost::shared_ptr<IGrammar> makeGrammar(const std::string& tag, unsigned char tr
                                         std::string& error);
 
 // Appends to `keys` the unit words the grammar of `tag` lists for the tools
-// (grammar/unit_keys.h); false when its class lists none. An unknown tag is
-// English, as above.
-bool listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys);
+// (grammar/unit_keys.h). An unknown tag is English, as above.
+void listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys);
 
 }  // namespace vela

@@ -12,7 +12,6 @@
 #include "grammar/factory.h"
 #include "grammar/helpers.h"
 #include "pipeline/text_decoder.h"
-#include "tools/image_words.h"
 #include "tools/inventory_inputs.h"
 
 namespace vela::tools {
@@ -160,27 +159,13 @@ std::string lower(const std::string& word) {
 // Keeps one word per signature, other than the unknown word's.
 class WordSorter {
  public:
-  explicit WordSorter(const SlotCaller& slots) : slots_(slots) {
-    unknown_ = signature(slots, unknownWord());
-    for (const AmountInput& a : quickProbeAmounts())
-      quickUnknown_.push_back(slots.amount(a.intDigits, a.fracDigits, unknownWord(), a.negative));
-  }
+  explicit WordSorter(const SlotCaller& slots) : slots_(slots), unknown_(signature(slots, unknownWord())) {}
 
   void offer(const std::string& word) {
     if (word.empty() || tried_.count(word) != 0) return;
     tried_.insert(word);
     std::string sig = signature(slots_, word);
     if (sig != unknown_) bySignature_.emplace(std::move(sig), word);
-  }
-  // A word read like the unknown word on the quick probes is left out.
-  bool quickKnown(const std::string& word) const {
-    const std::vector<AmountInput>& probes = quickProbeAmounts();
-    for (std::size_t i = 0; i < probes.size(); ++i) {
-      if (slots_.amount(probes[i].intDigits, probes[i].fracDigits, word, probes[i].negative) !=
-          quickUnknown_[i])
-        return true;
-    }
-    return false;
   }
   std::vector<std::string> words() const {
     std::vector<std::string> found;
@@ -191,7 +176,6 @@ class WordSorter {
  private:
   const SlotCaller& slots_;
   std::string unknown_;
-  std::vector<std::string> quickUnknown_;  // the unknown word's readings of the quick probes
   std::set<std::string> tried_;
   std::map<std::string, std::string> bySignature_;  // the first word offered with a signature
 };
@@ -226,28 +210,18 @@ void splitNames(const std::string& names, std::vector<std::string>& into) {
   }
 }
 
-UnitWords findUnitWords(const std::string& tag, unsigned char mode) {
+std::vector<std::string> findUnitWords(const std::string& tag, unsigned char mode) {
   std::string error;
   std::vector<std::string> listed;
-  const bool isListed = listUnitKeys(tag, mode, listed);
-  return findUnitWords(makeGrammar(tag, mode, error), isListed ? &listed : nullptr);
+  listUnitKeys(tag, mode, listed);
+  return findUnitWords(makeGrammar(tag, mode, error), listed);
 }
 
-UnitWords findUnitWords(const boost::shared_ptr<IGrammar>& grammar,
-                        const std::vector<std::string>* listedWords) {
+std::vector<std::string> findUnitWords(const boost::shared_ptr<IGrammar>& grammar,
+                                       const std::vector<std::string>& listed) {
   const QuietGrammars quiet;
   const SlotCaller slots(grammar);
   WordSorter sorter(slots);
-  UnitWords result;
-  result.listedByGrammar = listedWords != nullptr;
-  std::vector<std::string> listed;
-  if (listedWords != nullptr) {
-    listed = *listedWords;
-  } else {
-    for (const std::string& word : wordsInImage()) {
-      if (sorter.quickKnown(word)) listed.push_back(word);
-    }
-  }
   // Matching is mostly case-blind, but a grammar may compare a word exactly.
   for (const std::string& word : listed) {
     if (word.empty()) continue;
@@ -257,8 +231,7 @@ UnitWords findUnitWords(const boost::shared_ptr<IGrammar>& grammar,
     sorter.offer(upper(word));
     sorter.offer(upper(small.substr(0, 1)) + small.substr(1));
   }
-  result.words = sorter.words();
-  return result;
+  return sorter.words();
 }
 
 std::optional<std::vector<std::string>> speakNames(const std::string& tag, unsigned char mode,
@@ -274,12 +247,12 @@ std::optional<std::vector<std::string>> speakNames(const std::string& tag, unsig
 std::set<std::string> promptInventory(const std::string& tag, unsigned char mode) {
   std::string error;
   std::vector<std::string> listed;
-  const bool isListed = listUnitKeys(tag, mode, listed);
-  return promptInventory(makeGrammar(tag, mode, error), isListed ? &listed : nullptr);
+  listUnitKeys(tag, mode, listed);
+  return promptInventory(makeGrammar(tag, mode, error), listed);
 }
 
 std::set<std::string> promptInventory(const boost::shared_ptr<IGrammar>& grammar,
-                                      const std::vector<std::string>* listedWords) {
+                                      const std::vector<std::string>& listed) {
   const QuietGrammars quiet;
   const SlotCaller slots(grammar);
   std::set<std::string> names;
@@ -290,7 +263,7 @@ std::set<std::string> promptInventory(const boost::shared_ptr<IGrammar>& grammar
     names.insert(pieces.begin(), pieces.end());
   };
 
-  std::vector<std::string> units = findUnitWords(grammar, listedWords).words;
+  std::vector<std::string> units = findUnitWords(grammar, listed);
   units.push_back(unknownWord());
   for (const std::string& unit : units) {
     for (const AmountInput& a : amountInputs())

@@ -14,22 +14,20 @@ namespace vela::tools {
 
 // The words that change what the grammar of (tag, mode) says after a number,
 // one per kind of reading (two words read alike, such as "руб" and "rub",
-// count once), each with the capitalisations that read differently.
-struct UnitWords {
-  std::vector<std::string> words;
-  bool listedByGrammar = false;  // false: found by trying the words of the program's data
-};
-UnitWords findUnitWords(const std::string& tag, unsigned char mode);
-// The same for any grammar object; `listed` holds the words its class lists
-// (grammar/unit_keys.h), or is null when it lists none.
-UnitWords findUnitWords(const boost::shared_ptr<IGrammar>& grammar, const std::vector<std::string>* listed);
+// count once), each with the capitalisations that read differently: the
+// words its class lists (grammar/unit_keys.h) and their other spellings, less
+// those read like a word no table holds.
+std::vector<std::string> findUnitWords(const std::string& tag, unsigned char mode);
+// The same for any grammar object and the words its class lists.
+std::vector<std::string> findUnitWords(const boost::shared_ptr<IGrammar>& grammar,
+                                       const std::vector<std::string>& listed);
 
 // Every prompt name the grammar of (tag, mode) can answer any request with:
 // Windows-1251 bytes, sorted by byte, without repeats. Tags that share a
 // grammar share the answer.
 std::set<std::string> promptInventory(const std::string& tag, unsigned char mode);
 std::set<std::string> promptInventory(const boost::shared_ptr<IGrammar>& grammar,
-                                      const std::vector<std::string>* listed);
+                                      const std::vector<std::string>& listed);
 
 // The prompt names of one request, or nullopt when no rule takes the text
 // (the library then hands the text itself back).

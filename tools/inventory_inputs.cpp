@@ -145,12 +145,6 @@ const std::vector<AmountInput>& probeAmounts() {
   return inputs;
 }
 
-const std::vector<AmountInput>& quickProbeAmounts() {
-  static const std::vector<AmountInput> inputs = {{"1", "", false}, {"0", "", false},  {"2", "", false},
-                                                  {"5", "", false}, {"1", "5", false}, {"0", "05", false}};
-  return inputs;
-}
-
 const std::vector<std::string>& numberTokens() {
   static const std::vector<std::string> tokens = [] {
     std::vector<std::string> all = bareNumbers();

@@ -33,8 +33,6 @@ struct TimeInput {
 const std::vector<AmountInput>& amountInputs();
 // Amounts whose readings tell two unit words apart.
 const std::vector<AmountInput>& probeAmounts();
-// A few of them, to drop a word that is plainly unknown.
-const std::vector<AmountInput>& quickProbeAmounts();
 
 // Bare numbers (every group value in every position, over zero and non-zero
 // lower groups, leading zeros, long numbers), dash-separated numbers and

@@ -1,6 +1,7 @@
 #include "languages/arabic/arab_grammar.h"
 
 #include "grammar/helpers.h"
+#include "grammar/unit_keys.h"
 #include "languages/arabic/arab_number.h"
 
 namespace vela {
@@ -45,6 +46,14 @@ const char* digitWord(char c) {
 }
 
 }  // namespace
+
+// Every word is a unit, but only a code of the unit table is counted, only a
+// currency code is money, and the minor part's length is looked up by code.
+void ArabGrammar::listUnitKeys(std::vector<std::string>& keys) {
+  appendKeys(keys, arabic::kUnitRecords, &arabic::ArabicUnitRecord::code);
+  appendKeys(keys, arabic::kCurrencies, &arabic::CurrencyRow::code);
+  appendKeys(keys, arabic::kMinorDigits, &arabic::MinorDigitsRow::code);
+}
 
 bool ArabGrammar::isUnit(const std::string&) { return true; }
 

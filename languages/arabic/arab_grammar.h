@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "grammar/grammar_base.h"
 
@@ -14,6 +15,9 @@ namespace vela {
 // ordinals; an h:mm:ss clock time says nothing.
 class ArabGrammar final : public GrammarBase<ArabGrammar> {
  public:
+  // The words that may follow a number and change the reading, from the tables.
+  static void listUnitKeys(std::vector<std::string>& keys);
+
   int speakDate(const std::string& day, const std::string& month, const std::string& year,
                 const std::string& century, const std::string& yearTail, std::string& out) override;
   void speakNumber(const DigitList& tokenList, std::string& out) override;

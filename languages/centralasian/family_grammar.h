@@ -9,8 +9,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "grammar/grammar_base.h"
+#include "grammar/unit_keys.h"
 #include "languages/centralasian/family.h"
 
 namespace vela {
@@ -18,6 +20,14 @@ namespace vela {
 template <class T>
 class CentralAsianGrammar : public GrammarBase<T> {
  public:
+  // Every word is a unit, but only a key of the unit table is read (the
+  // time-unit and "mes" tests of the counts apply to such keys) and only a key
+  // of the currency table is money.
+  static void listUnitKeys(std::vector<std::string>& keys) {
+    appendKeys(keys, T::tables().units, &centralasian::KeyWord::key);
+    appendKeys(keys, T::tables().currencies, &centralasian::KeyWord::key);
+  }
+
   // A language without a leading-zero word reads a plain number digit by digit,
   // through its own digit-string slot.
   void speakNumber(const DigitList& tokenList, std::string& out) override {

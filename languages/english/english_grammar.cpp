@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "grammar/helpers.h"
+#include "grammar/unit_keys.h"
 #include "languages/english/english_cardinal.h"
 #include "languages/english/english_words.h"
 
@@ -18,6 +19,17 @@ using english::UnitRecord;
 using english::WordList;
 
 namespace {
+
+// A zero count of these units is one phrase; the unit is compared as written.
+struct NoneAmount {
+  const char* unit;
+  const char* phrase;
+};
+constexpr NoneAmount kNoneAmounts[] = {
+    {"msg", "no messages"},
+    {"mes", "no messages"},
+    {"num", "no numbers"},
+};
 
 // The first record whose code matches the suffix (case-insensitively), or null.
 const UnitRecord* findUnit(const std::string& unit) {
@@ -84,15 +96,19 @@ void speakHoursAndMinutes(EnglishGrammar& grammar, const std::string& hours, con
 bool EnglishGrammar::speakSpecialAmount(const std::string& intDigits, const std::string& unit,
                                         std::string& out) {
   if (intDigits != "0") return false;
-  if (unit == "msg" || unit == "mes") {
-    out = "no messages";
-    return true;
-  }
-  if (unit == "num") {
-    out = "no numbers";
-    return true;
+  for (const NoneAmount& row : kNoneAmounts) {
+    if (unit == row.unit) {
+      out = row.phrase;
+      return true;
+    }
   }
   return false;
+}
+
+// Currencies are records of the unit table.
+void EnglishGrammar::listUnitKeys(std::vector<std::string>& keys) {
+  appendKeys(keys, english::kUnits, &UnitRecord::code);
+  appendKeys(keys, kNoneAmounts, &NoneAmount::unit);
 }
 
 bool EnglishGrammar::isUnit(const std::string& unit) { return findUnit(unit) != nullptr; }

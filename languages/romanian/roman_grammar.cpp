@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "grammar/helpers.h"
+#include "grammar/unit_keys.h"
 #include "languages/romanian/roman_number.h"
 #include "languages/romanian/roman_words.h"
 
@@ -48,6 +49,16 @@ const char* symbolWord(char symbol) {
     if (row.symbol == symbol) return row.word;
   return nullptr;
 }
+
+// A zero count of these units is one phrase; the unit is compared as written.
+struct NoneAmount {
+  const char* unit;
+  const char* phrase;
+};
+constexpr NoneAmount kNoneAmounts[] = {
+    {"num", romanian::kNoNumbers},
+    {"mes", romanian::kNoMessages},
+};
 
 const romanian::CurrencyRow* findCurrency(const std::string& unit) {
   for (const romanian::CurrencyRow& row : romanian::kCurrencies)
@@ -173,15 +184,22 @@ void speakSpan(std::initializer_list<SpanPart> parts, std::string& out) {
 bool RomanGrammar::speakSpecialAmount(const std::string& intDigits, const std::string& unit,
                                       std::string& out) {
   if (intDigits != "0") return false;
-  if (unit == "num") {
-    out = romanian::kNoNumbers;
-    return true;
-  }
-  if (unit == "mes") {
-    out = romanian::kNoMessages;
-    return true;
+  for (const NoneAmount& row : kNoneAmounts) {
+    if (unit == row.unit) {
+      out = row.phrase;
+      return true;
+    }
   }
   return false;
+}
+
+// Nouns, their genders, currencies and the zero phrases.
+void RomanGrammar::listUnitKeys(std::vector<std::string>& keys) {
+  appendKeys(keys, romanian::kNouns, &romanian::NounRow::key);
+  appendKeys(keys, romanian::kExtraNouns, &romanian::ExtraNounRow::key);
+  appendKeys(keys, romanian::kNounGenders, &romanian::GenderRow::key);
+  appendKeys(keys, romanian::kCurrencies, &romanian::CurrencyRow::key);
+  appendKeys(keys, kNoneAmounts, &NoneAmount::unit);
 }
 
 bool RomanGrammar::isUnit(const std::string& unit) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "grammar/grammar_base.h"
 
@@ -15,6 +16,9 @@ namespace vela {
 // Decimals are not spoken: the language has no decimal words here.
 class RomanGrammar final : public GrammarBase<RomanGrammar> {
  public:
+  // The words that may follow a number and change the reading, from the tables.
+  static void listUnitKeys(std::vector<std::string>& keys);
+
   bool speakSpecialAmount(const std::string& intDigits, const std::string& unit, std::string& out) override;
   int speakDate(const std::string& day, const std::string& month, const std::string& year,
                 const std::string& century, const std::string& yearTail, std::string& out) override;

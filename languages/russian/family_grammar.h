@@ -4,9 +4,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "grammar/grammar_base.h"
 #include "grammar/helpers.h"
+#include "grammar/unit_keys.h"
 #include "languages/russian/family_language.h"
 #include "languages/russian/family_speaker.h"
 
@@ -15,6 +17,13 @@ namespace vela {
 template <class T>
 class RussianFamilyGrammar : public GrammarBase<T> {
  public:
+  // The unit keys (only they pass isUnit: a currency, or the female suffix,
+  // is read only when it is a unit key too) and the currency keys.
+  static void listUnitKeys(std::vector<std::string>& keys) {
+    appendKeys(keys, T::language().units, &UnitRow::key);
+    appendKeys(keys, T::language().currencies, &CurrencyRow::key);
+  }
+
   // Slots 2-11: speakDate returns 1 when the date was spoken, 0 when it was rejected.
   int speakDate(const std::string& day, const std::string& month, const std::string& year,
                 const std::string& century, const std::string&, std::string& out) override {
