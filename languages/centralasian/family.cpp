@@ -57,8 +57,12 @@ void speakPiece(const FamilyTables& tables, NumberSpeller speakNumber, const std
                 std::string& out) {
   for (char c : piece) {
     if (c != '0') {
-      out += tables.beforePieceNumber;
-      speakNumber(piece, out);  // leading zeros add nothing to the value
+      std::string number;
+      speakNumber(piece, number);  // leading zeros add nothing to the value
+      // A number whose first word carries no blank (a Tajik hundreds word)
+      // never fuses onto the zero or the piece before it.
+      if (!number.empty() && number.front() != ' ' && !out.empty() && out.back() != ' ') out += " ";
+      out += number;
       return;
     }
     out += tables.leadingZero;
