@@ -74,9 +74,9 @@ bool isTimeUnit(const std::string& unit) { return unit == "h" || unit == "min" |
 
 }  // namespace
 
-// A number with a fraction given bare ("32.1") is read as two numbers, like
-// dash-separated ones: its separator is never taken for a digit.
-constexpr const char* kPieceSeparators = "-.,";
+// A number with a fraction given bare ("32.1", "32,1", "32|1") is read as two
+// numbers, like dash-separated ones: its separator is never taken for a digit.
+constexpr const char* kPieceSeparators = "-.,|";
 
 void speakDashedNumber(const FamilyTables& tables, NumberSpeller speakNumber, const std::string& token,
                        std::string& out) {
