@@ -81,7 +81,6 @@ const centralasian::FamilyTables kTables = {
     .symbols = kSymbols,
     .digitWords = {" zro", " mek", " erku", " ereq", " chors", " hing", " vets", " jot", " ut", " iny"},
     .leadingZero = nullptr,  // a plain number is read digit by digit
-    .beforePieceNumber = "",
     // Month 0 is not a month: its slot says " iny harjur".
     .months = {" iny harjur", " hunvari", " petrvari", " marti", " aprili", " majisi", " hunisi", " hulisi",
                " ogostosi", " septemberi", " hoktemberi", " noemberi", " dektemberi"},

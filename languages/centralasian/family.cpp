@@ -57,8 +57,12 @@ void speakPiece(const FamilyTables& tables, NumberSpeller speakNumber, const std
                 std::string& out) {
   for (char c : piece) {
     if (c != '0') {
-      out += tables.beforePieceNumber;
-      speakNumber(piece, out);  // leading zeros add nothing to the value
+      std::string number;
+      speakNumber(piece, number);  // leading zeros add nothing to the value
+      // A number whose first word carries no blank (a Tajik hundreds word)
+      // never fuses onto the zero or the piece before it.
+      if (!number.empty() && number.front() != ' ' && !out.empty() && out.back() != ' ') out += " ";
+      out += number;
       return;
     }
     out += tables.leadingZero;
@@ -70,9 +74,9 @@ bool isTimeUnit(const std::string& unit) { return unit == "h" || unit == "min" |
 
 }  // namespace
 
-// A number with a fraction given bare ("32.1") is read as two numbers, like
-// dash-separated ones: its separator is never taken for a digit.
-constexpr const char* kPieceSeparators = "-.,";
+// A number with a fraction given bare ("32.1", "32,1", "32|1") is read as two
+// numbers, like dash-separated ones: its separator is never taken for a digit.
+constexpr const char* kPieceSeparators = "-.,|";
 
 void speakDashedNumber(const FamilyTables& tables, NumberSpeller speakNumber, const std::string& token,
                        std::string& out) {

@@ -59,9 +59,6 @@ struct FamilyTables {
   // Each leading zero of a dash-separated piece; null: a plain number is read
   // digit by digit, like a quoted digit string.
   const char* leadingZero;
-  // Written before the number of each piece: a speller whose first word may
-  // carry no blank of its own needs one here.
-  const char* beforePieceNumber;
   // Slot 0 is spoken for month 0: it is not a month.
   std::array<const char*, 13> months;
   DurationWords duration;

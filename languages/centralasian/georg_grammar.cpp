@@ -15,7 +15,7 @@ struct Forms {
 // 0..99: rows 20..99 are score words (ots 20, ormots 40, samots 60, otkhmots 80)
 // with "da" and the row of the rest, or with "i" when the rest is 0.
 constexpr std::array<Forms, 100> kUpTo99 = {{
-    {nullptr, "nuli"},                                // 0
+    {"null", "nuli"},                                 // 0
     {"ert", "erti"},                                  // 1
     {"or", "ori"},                                    // 2
     {"sam", "sami"},                                  // 3
@@ -182,7 +182,6 @@ const centralasian::FamilyTables kTables = {
     .symbols = kSymbols,
     .digitWords = {"nuli", "erti", "ori", "sami", "otkhi", "khuti", "eqvsi", "shvidi", "rva", "tskhra"},
     .leadingZero = nullptr,  // a plain number is read digit by digit
-    .beforePieceNumber = "",
     // Month 0 has no word.
     .months = {"", "ianvars", "tebervals", "marts", "aprils", "maiss", "ivniss", "ivliss", "agvistos",
                "seqtembers", "oqtombers", "noembers", "dekembers"},
@@ -216,8 +215,7 @@ void speakNormalisedGroup(const DigitGroup& group, std::string& out, bool final)
   }
   if (group.tens > 0 && group.tens < 100) {
     text += " ";
-    const char* word = form(kUpTo99[group.tens], final);
-    text += word != nullptr ? word : "";
+    text += form(kUpTo99[group.tens], final);
     text += " ";
   }
   out += text;

@@ -65,7 +65,6 @@ const centralasian::FamilyTables kTables = {
     .symbols = kSymbols,
     .digitWords = kNumbers.ones,
     .leadingZero = " nol",
-    .beforePieceNumber = "",
     // Month 0 is not a month: its slot says "nuhsad".
     .months = {"nuhsad", "qangtarynda", "aqpanynda", "nauryzynda", "sauirinde", "mamyrynda", "mausymynda",
                "shildesinde", "tamyzynda", "qyrqujeginde", "qazanynda", "qarashasynda", "zheltoqsanynda"},

@@ -70,8 +70,6 @@ const centralasian::FamilyTables kTables = {
     .symbols = kSymbols,
     .digitWords = {"sifr", "yak", "du", "se", "chor", "panj", "shash", "haft", "hasht", "nuh"},
     .leadingZero = " sifr",
-    // A group that begins with its hundreds word carries no blank.
-    .beforePieceNumber = " ",
     // Month 0 is not a month: its slot says "nuhsad".
     .months = {"nuhsad", "yanvar", "fevral", "mart", "aprel", "may", "iyun", "iyul", "avgust", "sentyabr",
                "oktyabr", "noyabr", "dekabr"},
@@ -140,11 +138,11 @@ void TadjikGrammar::speakInteger(const std::string& digits, std::string& out) {
   }
 }
 
-// A number that says nothing (a date without its year) takes no suffix either.
+// The suffix is said even after a number that says nothing: a date without
+// its year ends in "solium".
 void TadjikGrammar::speakOrdinal(const std::string& digits, std::string& out) {
   std::string text;
   speakInteger(digits, text);
-  if (text.empty()) return;
   centralasian::appendGlide(text);
   text += "um";
   out += text;

@@ -67,7 +67,6 @@ const centralasian::FamilyTables kTables = {
     .symbols = kSymbols,
     .digitWords = kNumbers.ones,
     .leadingZero = " nol",
-    .beforePieceNumber = "",
     // Month 0 is no month and says nothing.
     .months = {"", "yanvar", "fevral", "mart", "aprel", "may", "iyun", "iyul", "avgust", "sentabr", "oktabr",
                "noyabr", "dekabr"},

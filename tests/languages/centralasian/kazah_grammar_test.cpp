@@ -18,6 +18,8 @@ const Reading kKazakh[] = {
     {"12-05", "on eki nol bes"},
     {"32.1", "otyz eki bir"},
     {"0,25", "nol zhiyrma bes"},
+    {"0|5", "nol bes"},
+    {"12|50", "on eki elu"},
     {"100", "zhuz"},
     {"111", "zhuz on bir"},
     {"115", "zhuz on bes"},

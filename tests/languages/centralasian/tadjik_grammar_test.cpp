@@ -36,12 +36,13 @@ const Reading kTajik[] = {
     {"0,25", "sifr bistu panj"},
     {"2000000000001", "yak"},
     // Dates: ordinal day with "i", month with "i soli", ordinal year; month 0
-    // says slot 0; a date without a year says no year.
+    // says slot 0; a date without a year still takes the ordinal suffix.
     {"5.01.2008", "panjumi yanvari soli du hazoru hashtum"},
     {"2.03.1999", "duyumi marti soli yak hazoru nuhsadu navadu nuhum"},
     {"30.11.2000", "siyumi noyabri soli du hazorum"},
     {"5.00.2008", "panjumi nuhsadi soli du hazoru hashtum"},
-    {"12.05", "duvozdahumi mayi soli"},
+    {"12.05", "duvozdahumi mayi solium"},
+    {"1.5", "yakumi mayi solium"},
     // Clock times and spans.
     {"7:05", "soati haftu panj daqiqa"},
     {"2:30", "soati duyu si daqiqa"},
@@ -73,11 +74,16 @@ TEST(TadjikGrammar, ThroughDecodeBuffer) {
   for (const char* tag : {"tg", "tgk", "TADJIK", "TAJIK", "TAJIKISTAN"}) expectReadings(tag, kTajik);
 }
 
-// The hundreds word opens its group without a blank; a piece of a plain
-// number is given one.
+// The hundreds word opens its group without a blank; only where it would
+// fuse onto a zero or an earlier piece is a blank put before it.
 TEST(TadjikGrammar, ExactBytes) {
-  EXPECT_EQ(decodeRaw("tg", "105"), "  sadu panj");
-  EXPECT_EQ(decodeRaw("tg", "5-500"), "   panj  panjsad");
+  EXPECT_EQ(decodeRaw("tg", "105"), " sadu panj");
+  EXPECT_EQ(decodeRaw("tg", "5"), "  panj");
+  EXPECT_EQ(decodeRaw("tg", "1005"), " yak hazoru   panj");
+  EXPECT_EQ(decodeRaw("tg", "5-500"), "  panj panjsad");
+  EXPECT_EQ(decodeRaw("tg", "200000"), "dusad hazor");
+  EXPECT_EQ(decodeRaw("tg", "5-200000"), "  panj dusad hazor");
+  EXPECT_EQ(decodeRaw("tg", "0200000"), " sifr dusad hazor");
   EXPECT_EQ(decodeRaw("tg", "5.50tjs"), "  panj somoniyu   panjoh diram");
 }
 
