@@ -25,9 +25,7 @@
 #include <windows.h>
 typedef HMODULE Library;
 static Library openLibrary(const char* path) { return LoadLibraryA(path); }
-static void* findExport(Library lib, const char* name) {
-  return (void*)(INT_PTR)GetProcAddress(lib, name);
-}
+static void* findExport(Library lib, const char* name) { return (void*)(INT_PTR)GetProcAddress(lib, name); }
 #else
 #include <dlfcn.h>
 typedef void* Library;
@@ -210,8 +208,8 @@ static void runJavaEntry(const Field* tag, const Field* text, jboolean translite
 
   FakeArray* textArray = text->isNull ? NULL : newArray(text->bytes.data, (jsize)text->bytes.size);
   FakeArray* tagArray = tag->isNull ? NULL : newArray(tag->bytes.data, (jsize)tag->bytes.size);
-  FakeArray* result = (FakeArray*)javaEntry(&env, NULL, (jbyteArray)textArray, (jbyteArray)tagArray,
-                                            transliterated);
+  FakeArray* result =
+      (FakeArray*)javaEntry(&env, NULL, (jbyteArray)textArray, (jbyteArray)tagArray, transliterated);
   if (result == NULL) {
     putText(answer, "null");
   } else {
