@@ -1,7 +1,7 @@
 /*
  * A host that loads vela at run time, finds every export by its plain name and
- * runs a table of requests through decodeBuffer and the Java native entry (with
- * a small fake JNI function table). The same source builds on Linux (dlopen)
+ * runs a table of requests through each of them (the Java native entry with a
+ * small fake JNI function table). The same source builds on Linux (dlopen)
  * and for Windows (LoadLibrary), so the Linux build writes the answers that the
  * Windows DLL must then give byte for byte.
  *
@@ -10,9 +10,11 @@
  *
  * REQUESTS: one request a line, "entry<TAB>tag<TAB>text"; '#' starts a comment.
  * entry: c (decodeBuffer), c-noout (decodeBuffer with a null out), jni and
- * jni-t (the Java entry, transliterated off and on). In tag and text: \xHH is a
- * byte, \\ a backslash, a field of just \N a null pointer (a null array for
- * the Java entry), and \R<count>:<piece> the piece repeated.
+ * jni-t (the Java entry, transliterated off and on), ascii (DecodeBufferASCII,
+ * through ascii_call.cpp: its arguments are C++ objects). In tag and text:
+ * \xHH is a byte, \\ a backslash, a field of just \N a null pointer (a null
+ * array for the Java entry, an empty string for DecodeBufferASCII), and
+ * \R<count>:<piece> the piece repeated.
  * The library prints its own diagnostics on standard output; this program
  * reports on standard error only.
  */
@@ -43,6 +45,12 @@ typedef jbyteArray(JNICALL* JavaEntryFn)(JNIEnv*, jclass, jbyteArray, jbyteArray
 static DecodeBufferFn decodeBuffer;
 static ReleaseFn decodeReleaseBuffer;
 static JavaEntryFn javaEntry;
+static void* asciiEntry;
+
+/* ascii_call.cpp */
+void velaHostCallAscii(void* function, const char* tag, size_t tagLength, const char* text, size_t textLength,
+                       void* answer);
+void velaHostPut(void* answer, const char* bytes, size_t length);
 
 /* ---- a growable byte buffer ---- */
 
@@ -78,6 +86,10 @@ static void putEscaped(Bytes* b, const char* p, size_t n) {
       put(b, (const char*)&p[i], 1);
     }
   }
+}
+
+void velaHostPut(void* answer, const char* bytes, size_t length) {
+  putEscaped((Bytes*)answer, bytes, length);
 }
 
 /* ---- the fake JNI table: byte arrays are plain heap blocks ---- */
@@ -242,6 +254,8 @@ static int runRequest(const char* line, Bytes* answer) {
     runJavaEntry(&tag, &text, JNI_FALSE, answer);
   } else if (entryLength == 5 && strncmp(line, "jni-t", 5) == 0) {
     runJavaEntry(&tag, &text, JNI_TRUE, answer);
+  } else if (entryLength == 5 && strncmp(line, "ascii", 5) == 0) {
+    velaHostCallAscii(asciiEntry, tag.bytes.data, tag.bytes.size, text.bytes.data, text.bytes.size, answer);
   } else {
     putText(answer, "unknown entry");
   }
@@ -296,6 +310,7 @@ static int loadExports(const char* path) {
   }
   decodeBuffer = (DecodeBufferFn)found[0];
   decodeReleaseBuffer = (ReleaseFn)found[1];
+  asciiEntry = found[2];
   javaEntry = (JavaEntryFn)found[3];
   return ok;
 }
