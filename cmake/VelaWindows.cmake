@@ -18,8 +18,9 @@ set(_vela_boost_shim ${PROJECT_BINARY_DIR}/boost-headers)
 file(MAKE_DIRECTORY ${_vela_boost_shim})
 file(CREATE_LINK ${VELA_BOOST_ROOT}/boost ${_vela_boost_shim}/boost SYMBOLIC)
 add_library(Boost::headers INTERFACE IMPORTED)
-# Boost.Regex would otherwise classify bytes by the Windows user locale; the C++
-# locale traits give the classes of the locale the rules imbue, as on Linux.
+# Boost.Regex classifies bytes with the C++ locale traits, as on Linux, so the
+# classic locale the rules imbue decides the classes, never the Windows user
+# locale (the default of Boost.Regex on Windows, though not with gcc).
 set_target_properties(Boost::headers PROPERTIES
   INTERFACE_INCLUDE_DIRECTORIES ${_vela_boost_shim}
   INTERFACE_COMPILE_DEFINITIONS BOOST_REGEX_USE_CPP_LOCALE)
