@@ -116,7 +116,7 @@ run_hosts() {
   if (cd "$dir" && "$@" vela_windows_host.exe check vela.dll requests.txt answers.txt >library-output.txt 2>host.log); then
     pass
   else
-    fail "$arch request table under wine: $(grep -v '^wine:' "$dir/host.log" | head -20)"
+    fail "$arch request table under wine: $(grep -v '^wine:' "$dir/host.log" | iconv -f CP1251 -t UTF-8 | head -20)"
   fi
   if (cd "$dir" && "$@" vela_windows_linked.exe >linked.log 2>&1) && grep -q 'consumer ok' "$dir/linked.log"; then
     pass
