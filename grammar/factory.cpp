@@ -1,5 +1,6 @@
 #include "grammar/factory.h"
 
+#include "grammar/unit_keys.h"
 #include "languages/arabic/arab_grammar.h"
 #include "languages/centralasian/armjan_grammar.h"
 #include "languages/centralasian/georg_grammar.h"
@@ -15,16 +16,19 @@
 namespace vela {
 namespace {
 
-using Maker = IGrammar* (*)(unsigned char transliterated);
+// Makes the grammar; with `unitKeys`, only lists its unit words there instead
+// (returns null, or the grammar itself when it lists none).
+using Maker = IGrammar* (*)(unsigned char transliterated, std::vector<std::string>* unitKeys);
 
 template <class T>
-IGrammar* make(unsigned char) {
+IGrammar* make(unsigned char, std::vector<std::string>* unitKeys) {
+  if (unitKeys != nullptr && listUnitKeysOf<T>(*unitKeys)) return nullptr;
   return new T;
 }
 
-IGrammar* makeRussian(unsigned char transliterated) {
-  if (transliterated == 0) return new RusGrammar;
-  return new RusGrammarTrans;
+IGrammar* makeRussian(unsigned char transliterated, std::vector<std::string>* unitKeys) {
+  if (transliterated == 0) return make<RusGrammar>(0, unitKeys);
+  return make<RusGrammarTrans>(transliterated, unitKeys);
 }
 
 struct TagRow {
@@ -94,10 +98,23 @@ constexpr TagRow kTags[] = {
 boost::shared_ptr<IGrammar> makeGrammar(const std::string& tag, unsigned char transliterated,
                                         std::string& error) {
   for (const TagRow& row : kTags) {
-    if (tag == row.tag) return boost::shared_ptr<IGrammar>(row.maker(transliterated));
+    if (tag == row.tag) return boost::shared_ptr<IGrammar>(row.maker(transliterated, nullptr));
   }
   error = " language tag incorrect";
   return boost::shared_ptr<IGrammar>(new EnglishGrammar);
+}
+
+bool listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys) {
+  Maker maker = make<EnglishGrammar>;
+  for (const TagRow& row : kTags) {
+    if (tag == row.tag) {
+      maker = row.maker;
+      break;
+    }
+  }
+  // A grammar that lists no keys was made instead: it is not needed.
+  const boost::shared_ptr<IGrammar> unused(maker(transliterated, &keys));
+  return unused == nullptr;
 }
 
 }  // namespace vela

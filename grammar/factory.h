@@ -3,6 +3,7 @@
 
 #include <boost/shared_ptr.hpp>
 #include <string>
+#include <vector>
 
 #include "grammar/igrammar.h"
 
@@ -14,5 +15,10 @@ namespace vela {
 // in `error`; a known tag leaves `error` alone. Never returns an empty pointer.
 boost::shared_ptr<IGrammar> makeGrammar(const std::string& tag, unsigned char transliterated,
                                         std::string& error);
+
+// Appends to `keys` the unit words the grammar of `tag` lists for the tools
+// (grammar/unit_keys.h); false when its class lists none. An unknown tag is
+// English, as above.
+bool listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys);
 
 }  // namespace vela

@@ -10,6 +10,7 @@ packages=(
   openjdk-17-jdk-headless
   clang-format clang-tidy
   locales
+  libsndfile1-dev python3 python3-pytest espeak-ng
 )
 
 missing=()
