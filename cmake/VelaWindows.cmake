@@ -49,7 +49,8 @@ set_target_properties(JNI::JNI PROPERTIES
 function(vela_windows_dll target)
   target_link_libraries(vela_objects PUBLIC JNI::JNI)
   target_compile_definitions(vela_objects PRIVATE VELA_BUILDING_DLL)
-  set_target_properties(${target} PROPERTIES PREFIX "" IMPORT_PREFIX "lib" IMPORT_SUFFIX ".dll.a")
+  set_target_properties(${target} PROPERTIES
+    OUTPUT_NAME vela PREFIX "" IMPORT_PREFIX "lib" IMPORT_SUFFIX ".dll.a")
   target_link_options(${target} PRIVATE -static -Wl,--kill-at -Wl,--no-undefined)
 
   include(GNUInstallDirs)
