@@ -13,8 +13,10 @@
 #ifndef VELA_VELA_H
 #define VELA_VELA_H
 
-#if defined(_WIN32)
+#if defined(_WIN32) && defined(VELA_BUILDING_DLL)
 #define VELA_API __declspec(dllexport)
+#elif defined(_WIN32)
+#define VELA_API __declspec(dllimport)
 #else
 #define VELA_API __attribute__((visibility("default")))
 #endif
