@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Sets up the machine, builds, and runs every test: once in a normal build
 # (build/) and once under AddressSanitizer + UndefinedBehaviorSanitizer
-# (build-asan/).
+# (build-asan/), then the Windows DLLs under wine.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh
@@ -16,3 +16,7 @@ cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DVELA_SANITIZE=ON -D
 cmake --build build-asan -j "$jobs"
 ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
   ctest --test-dir build-asan --output-on-failure -j "$jobs"
+
+# The Windows DLLs, cross-built and checked under wine (a few minutes; more the
+# first time on a machine, when it installs mingw-w64 and wine).
+bash scripts/windows.sh
