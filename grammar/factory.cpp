@@ -15,20 +15,28 @@
 namespace vela {
 namespace {
 
-using Maker = IGrammar* (*)(unsigned char transliterated);
+using Maker = IGrammar& (*)(unsigned char transliterated);
 
+// The one instance of a grammar class: built on first use, never destroyed
+// before the library is unloaded.
 template <class T>
-IGrammar* make(unsigned char) {
-  return new T;
+IGrammar& instance() {
+  static T grammar;
+  return grammar;
 }
 
-IGrammar* makeRussian(unsigned char transliterated) {
-  if (transliterated == 0) return new RusGrammar;
-  return new RusGrammarTrans;
+template <class T>
+IGrammar& make(unsigned char) {
+  return instance<T>();
+}
+
+IGrammar& makeRussian(unsigned char transliterated) {
+  if (transliterated == 0) return instance<RusGrammar>();
+  return instance<RusGrammarTrans>();
 }
 
 struct TagRow {
-  const char* tag;
+  std::string_view tag;
   Maker maker;
 };
 
@@ -91,13 +99,12 @@ constexpr TagRow kTags[] = {
 
 }  // namespace
 
-boost::shared_ptr<IGrammar> makeGrammar(const std::string& tag, unsigned char transliterated,
-                                        std::string& error) {
+IGrammar& grammarFor(std::string_view tag, unsigned char transliterated, std::string& error) {
   for (const TagRow& row : kTags) {
-    if (tag == row.tag) return boost::shared_ptr<IGrammar>(row.maker(transliterated));
+    if (tag == row.tag) return row.maker(transliterated);
   }
   error = " language tag incorrect";
-  return boost::shared_ptr<IGrammar>(new EnglishGrammar);
+  return instance<EnglishGrammar>();
 }
 
 }  // namespace vela

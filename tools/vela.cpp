@@ -162,7 +162,7 @@ int main(int argc, char** argv) {
 
   int status = 0;
   std::string tagError;
-  vela::makeGrammar(options.tag, options.mode, tagError);
+  vela::grammarFor(options.tag, options.mode, tagError);
   if (!tagError.empty()) {
     std::fprintf(stderr, "vela: unknown language tag \"%s\"; speaking English\n", options.tag.c_str());
     status = 1;
