@@ -17,6 +17,20 @@ TextDecoder::TextDecoder(IGrammar& injected, std::string_view requestText)
   trimInput(text);
 }
 
+void TextDecoder::reserveBuffers() {
+  languageTag.reserve(kRequestBytes);
+  text.reserve(kRequestBytes);
+  output.reserve(kReadingBytes);
+  work.reserve(kReadingBytes);
+  errorText.reserve(kRequestBytes);
+  for (std::string& group : groups_) group.reserve(kRequestBytes);
+  minus_.reserve(kRequestBytes);
+  intList_.reserve(9);
+  fracList_.reserve(9);
+  tokenList_.resize(1);
+  tokenList_[0].reserve(kRequestBytes);
+}
+
 void TextDecoder::reset(std::string_view tag, std::string_view requestText, unsigned char mode) {
   languageTag.assign(tag);
   text.assign(requestText);
@@ -71,7 +85,11 @@ int decodeText(const char* languageTag, const char* text, char** out, unsigned c
   *out = nullptr;
   const std::string_view callerText = text != nullptr ? text : "";
   // One decoder per thread, reset for each request: its buffers stay warm.
-  thread_local TextDecoder decoder;
+  thread_local TextDecoder decoder = [] {
+    TextDecoder warm;
+    warm.reserveBuffers();
+    return warm;
+  }();
   decoder.reset(languageTag != nullptr ? languageTag : "", callerText, mode);
   runRules(decoder);
   // Nothing spoken: the caller gets its own text back, untrimmed.

@@ -20,6 +20,12 @@ class TextDecoder {
   TextDecoder(IGrammar& grammar, std::string_view text);
   TextDecoder() = default;
 
+  // Gives every buffer room for a text of kRequestBytes and a reading of
+  // kReadingBytes, so that such requests on this decoder allocate nothing.
+  static constexpr std::size_t kRequestBytes = 64;
+  static constexpr std::size_t kReadingBytes = 1024;
+  void reserveBuffers();
+
   // Starts a new request on this decoder, as the first constructor does.
   void reset(std::string_view languageTag, std::string_view text, unsigned char mode);
 
