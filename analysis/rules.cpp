@@ -45,7 +45,7 @@ void runRules(TextDecoder& decoder) {
   std::string& work = decoder.work;
   work.assign(decoder.text);
   if (work.find(".wav") != std::string::npos) {
-    decoder.output.assign(work);
+    decoder.output.swap(work);
     return;
   }
   // Rules that do not take the current text are skipped in one step; a rule
@@ -60,7 +60,7 @@ void runRules(TextDecoder& decoder) {
       work.swap(decoder.output);
     }
   }
-  decoder.output.assign(work);
+  decoder.output.swap(work);
 }
 
 }  // namespace vela

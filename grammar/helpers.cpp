@@ -26,7 +26,7 @@ constexpr std::array<unsigned char, 256> makeLowerTable() {
 constexpr auto kLower = makeLowerTable();
 
 // A digit's value; any other byte reads as 0.
-int digitAt(const std::string& s, std::size_t i) {
+int digitAt(std::string_view s, std::size_t i) {
   char c = s[i];
   return (c >= '0' && c <= '9') ? c - '0' : 0;
 }
@@ -52,7 +52,7 @@ void getDigitGroup(const std::string& number, DigitGroup* group, int cut) {
   *group = DigitGroup{};
   std::size_t drop = cut > 0 ? static_cast<std::size_t>(cut) : 0;
   if (number.size() <= drop) return;
-  const std::string t = number.substr(0, number.size() - drop);
+  const std::string_view t = std::string_view(number).substr(0, number.size() - drop);
   group->value = readInt(t);
   const std::size_t n = t.size();
   if (n == 1) {
@@ -70,15 +70,14 @@ void getDigitGroup(const std::string& number, DigitGroup* group, int cut) {
 }
 
 bool matchesWord(const std::string& token, const char* word) {
-  if (word == nullptr) return false;
-  const std::size_t wordLength = std::strlen(word);
-  if (token.empty() && wordLength == 0) return true;
-  if (wordLength >= 256 || token.size() >= 256) return false;
-  if (token.size() != wordLength) return false;
-  for (std::size_t i = 0; i < wordLength; ++i) {
-    if (kLower[static_cast<unsigned char>(token[i])] != static_cast<unsigned char>(word[i])) return false;
+  if (word == nullptr || token.size() >= 256) return false;
+  // One walk over both: the first differing byte, or the end of the table
+  // word, decides without measuring the word first.
+  for (const char c : token) {
+    const auto w = static_cast<unsigned char>(*word++);
+    if (w == 0 || kLower[static_cast<unsigned char>(c)] != w) return false;
   }
-  return true;
+  return *word == '\0';
 }
 
 }  // namespace vela
