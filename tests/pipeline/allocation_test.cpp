@@ -72,11 +72,14 @@ Count countRequest(const char* tag, const std::string& text, std::string& answer
 struct Request {
   const char* tag;
   std::string text;
+  // Digit lists the grammar builds itself (a vector each): English turns the
+  // hours, minutes, seconds and year of a time or date, and the cents of an
+  // amount, into the digit list its amount operations take.
+  long digitLists = 0;
 };
 
 // Every kind of token, texts up to 64 bytes, readings up to 1 KB; unknown
-// units, rejected dates and unknown tags too. Not here: English, which builds
-// its phrases in vectors of words inside the grammar, and Russian bare numbers
+// units, rejected dates and unknown tags too. Not here: Russian bare numbers
 // of more than 15 digits, whose digits the grammar copies into a string.
 const Request kRequests[] = {
     {"ru", "12.50руб"_cp},
@@ -105,9 +108,21 @@ const Request kRequests[] = {
     {"ro", "15"},
     {"ar", "15"},
     {"kk", "15"},
+    {"en", "1234h"},
+    {"en", "999999999min"},
+    {"en", "12.50usd", 1},
+    {"en", "-3min"},
+    {"en", "31.12.1999", 3},
+    {"en", "1.05(I)"},
+    {"en", "12:30", 3},
+    {"en", "7:05:30", 5},
+    {"en", "\"125:30\"", 5},
+    {"en", "\"12#*\""},
+    {"en", "0-05-120"},
+    {"en", "x"},
 };
 
-// Unknown tags get English: a text English speaks without its phrase lists.
+// Unknown tags get English.
 const Request kUnknownTags[] = {{"xx", "ab"}, {"", "x.wav"}, {"english", "\"12#*\""}};
 
 TEST(AllocationTest, OnlyTheAnswerIsAllocated) {
@@ -119,8 +134,8 @@ TEST(AllocationTest, OnlyTheAnswerIsAllocated) {
       ASSERT_LE(r.text.size(), 64u);
       const Count count = countRequest(r.tag, r.text, answer);
       EXPECT_LE(answer.size(), 1024u) << r.tag << " " << r.text;
-      EXPECT_EQ(count.news, 0) << r.tag << " " << r.text;
-      EXPECT_EQ(count.mallocs, VELA_COUNT_MALLOC) << r.tag << " " << r.text;
+      EXPECT_EQ(count.news, r.digitLists) << r.tag << " " << r.text;
+      EXPECT_EQ(count.mallocs, VELA_COUNT_MALLOC * (1 + r.digitLists)) << r.tag << " " << r.text;
     }
   }
 }
