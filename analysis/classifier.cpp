@@ -241,12 +241,13 @@ void groupsOf(int rule, std::string_view text, const Scan& scan, TokenMatch& mat
 std::uint32_t rulesTakingWholeText(std::string_view text) { return scanText(text).rules; }
 
 int classifyToken(std::string_view text, int firstRule, TokenMatch& match) {
-  match = TokenMatch{};
   if (firstRule < 0) firstRule = 0;
-  if (firstRule >= kTokenRuleCount) return -1;
-  const Scan scan = scanText(text);
-  const std::uint32_t candidates = scan.rules & (~std::uint32_t{0} << firstRule);
-  if (candidates == 0) return -1;
+  const Scan scan = firstRule < kTokenRuleCount ? scanText(text) : Scan{};
+  const std::uint32_t candidates = scan.rules & (~std::uint32_t{0} << (firstRule & 31));
+  if (candidates == 0) {
+    match = TokenMatch{};
+    return -1;
+  }
   const int rule = __builtin_ctz(candidates);
   groupsOf(rule, text, scan, match);
   return rule;

@@ -48,17 +48,21 @@ void runRules(TextDecoder& decoder) {
     decoder.output.swap(work);
     return;
   }
-  // Rules that do not take the current text are skipped in one step; a rule
-  // that does is tried again on its own output, then the later rules are.
-  for (int rule = classifyToken(work, 0, decoder.match); rule >= 0;
-       rule = classifyToken(work, rule + 1, decoder.match)) {
-    for (int pass = 0; pass < kMaxPassesPerRule; ++pass) {
-      if (pass > 0 && classifyToken(work, rule, decoder.match) != rule) break;
-      decoder.output.clear();
-      (decoder.*decodeRules[rule].handler)();
-      decoder.match = TokenMatch{};  // its views point into the text being replaced
-      work.swap(decoder.output);
-    }
+  // One scan of the text finds the first rule that takes it whole. After a
+  // handler, one scan of its output finds whether the same rule takes that
+  // again, or else the first later rule that does; rules in between are
+  // skipped in the same step.
+  int rule = classifyToken(work, 0, decoder.match);
+  int passes = 0;
+  while (rule >= 0) {
+    decoder.output.clear();
+    (decoder.*decodeRules[rule].handler)();
+    work.swap(decoder.output);  // the groups pointed into the old text: classified anew below
+    ++passes;
+    int next = classifyToken(work, rule, decoder.match);
+    if (next == rule && passes == kMaxPassesPerRule) next = classifyToken(work, rule + 1, decoder.match);
+    if (next != rule) passes = 0;
+    rule = next;
   }
   decoder.output.swap(work);
 }

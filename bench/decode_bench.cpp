@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "grammar/cp1251.h"
+#include "grammar/factory.h"
 #include "pipeline/text_decoder.h"
 #include "vela/vela.h"
 
@@ -116,6 +117,24 @@ void BM_Vela_RussianCardinal(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_Vela_RussianCardinal);
+
+// The Russian grammar alone on the same numbers: what the request path adds
+// is the difference from BM_Vela_RussianCardinal.
+void BM_RussianGrammarOnly(benchmark::State& state) {
+  std::string error;
+  vela::IGrammar& grammar = vela::grammarFor("ru", 0, error);
+  vela::DigitList token(1);
+  std::string out;
+  std::size_t i = 0;
+  for (auto _ : state) {
+    token[0] = kCardinalTexts[i];
+    out.clear();
+    grammar.speakNumber(token, out);
+    benchmark::DoNotOptimize(out.data());
+    if (++i == kCardinalTexts.size()) i = 0;
+  }
+}
+BENCHMARK(BM_RussianGrammarOnly);
 
 std::unique_ptr<icu::RuleBasedNumberFormat> spellout(const char* locale, const char* ruleSet) {
   UErrorCode status = U_ZERO_ERROR;

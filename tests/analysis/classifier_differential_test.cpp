@@ -20,6 +20,7 @@
 #include "analysis/rules.h"
 #include "grammar/cp1251.h"
 #include "grammar/factory.h"
+#include "grammar/grammar_base.h"
 #include "pipeline/text_decoder.h"
 #include "support/recording_grammar.h"
 #include "support/regex_rules.h"
@@ -355,6 +356,35 @@ TEST(ClassifierDifferentialTest, GeneratedCorpus) {
   std::fprintf(stderr, "differential: %zu texts, %zu answers compared, %zu rule searches given up, %.1f s\n",
                tally.texts, tally.answers, tally.gaveUp, took.count());
   report(tally);
+}
+
+// A grammar whose readings are tokens again: a number reads as "7", which the
+// number rule takes again, up to its bound of passes; then a character reads
+// as "x", which the character rule takes again likewise.
+class EchoGrammar final : public GrammarBase<EchoGrammar> {
+ public:
+  void speakNumber(const DigitList&, std::string& out) override {
+    ++numbers;
+    out += "7";
+  }
+  void speakCharacter(const std::string&, std::string& out) override {
+    ++characters;
+    out += "x";
+  }
+  int numbers = 0, characters = 0;
+};
+
+TEST(ClassifierDifferentialTest, ReadingsAreTriedByTheSameAndLaterRules) {
+  for (const char* text : {"15", "0-5", "1,5", "a"}) {
+    EchoGrammar byRegex, byClassifier;
+    const std::string expected = testing::runRulesByRegex(byRegex, text);
+    TextDecoder decoder(byClassifier, text);
+    runRules(decoder);
+    EXPECT_EQ(decoder.output, expected) << text;
+    EXPECT_EQ(byClassifier.numbers, byRegex.numbers) << text;
+    EXPECT_EQ(byClassifier.characters, byRegex.characters) << text;
+    EXPECT_EQ(byClassifier.characters, 16) << text;
+  }
 }
 
 // Texts on which the engine gives up: the classifier still answers, and the
