@@ -56,7 +56,9 @@ void runRules(TextDecoder& decoder) {
   int passes = 0;
   while (rule >= 0) {
     decoder.output.clear();
-    (decoder.*decodeRules[rule].handler)();
+    // A local: GCC's bounds sanitizer misreads an index inside a member-pointer call.
+    const auto handler = decodeRules[rule].handler;
+    (decoder.*handler)();
     work.swap(decoder.output);  // the groups pointed into the old text: classified anew below
     ++passes;
     int next = classifyToken(work, rule, decoder.match);

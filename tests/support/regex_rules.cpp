@@ -95,7 +95,8 @@ std::string runRulesByRegex(IGrammar& grammar, const std::string& text, bool* ga
       decoder.match.rule = rule;
       for (std::size_t k = 0; k < 6 && k < found.size(); ++k) decoder.match.group[k] = view(found[k]);
       decoder.output.clear();
-      (decoder.*decodeRules[rule].handler)();
+      const auto handler = decodeRules[rule].handler;
+      (decoder.*handler)();
       decoder.match = TokenMatch{};
       work = found.prefix().str() + decoder.output + found.suffix().str();
     }
