@@ -13,7 +13,8 @@ void splitDigitGroups(const std::string& digits, DigitList& list) {
 }
 
 const std::string& TextDecoder::group(int k) {
-  if (k < 0 || k >= TokenMatch::kGroups) return groups_[0].erase();
+  static const std::string kNoGroup;
+  if (k < 0 || k >= TokenMatch::kGroups) return kNoGroup;
   return groups_[k].assign(match.group[k]);
 }
 
