@@ -1,16 +1,17 @@
 # `cmake --install`: the library, its header, the `vela` tool, the jar (see
-# java/), a CMake package giving vela::vela, and vela.pc for pkg-config.
+# java/), a CMake package giving vela::vela, vela.pc for pkg-config, and the
+# Python module.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(VELA_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/vela)
 set(VELA_INSTALL_JAVADIR ${CMAKE_INSTALL_DATADIR}/java)
 
-install(TARGETS vela EXPORT velaTargets
+install(TARGETS vela_library EXPORT velaTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(TARGETS vela_cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS vela RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/include/vela/vela.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vela)
 
 install(EXPORT velaTargets NAMESPACE vela:: DESTINATION ${VELA_INSTALL_CMAKEDIR})
@@ -23,6 +24,18 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/velaConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/velaConfig.cmake ${PROJECT_BINARY_DIR}/velaConfigVersion.cmake
   DESTINATION ${VELA_INSTALL_CMAKEDIR})
+
+# The Python module goes where Debian's python3 looks for a prefix's modules
+# (found without PYTHONPATH for /usr and /usr/local), with a note of where the
+# library lies relative to it.
+set(VELA_INSTALL_PYTHONDIR lib/python3/dist-packages CACHE STRING
+  "Where `cmake --install` puts the Python module, relative to the prefix")
+install(FILES ${PROJECT_SOURCE_DIR}/python/vela/__init__.py DESTINATION ${VELA_INSTALL_PYTHONDIR}/vela)
+file(RELATIVE_PATH VELA_PYTHON_TO_LIBRARY /prefix/${VELA_INSTALL_PYTHONDIR}/vela
+  /prefix/${CMAKE_INSTALL_LIBDIR}/libvela.so.${PROJECT_VERSION_MAJOR})
+file(WRITE ${PROJECT_BINARY_DIR}/python/_installed.py
+  "# Written by `cmake --install`: the library, relative to this package.\nLIBRARY = \"${VELA_PYTHON_TO_LIBRARY}\"\n")
+install(FILES ${PROJECT_BINARY_DIR}/python/_installed.py DESTINATION ${VELA_INSTALL_PYTHONDIR}/vela)
 
 # vela.pc finds its prefix from its own place, so an installed tree can move
 # (and `cmake --install --prefix` works whatever prefix was configured).

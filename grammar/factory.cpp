@@ -1,5 +1,6 @@
 #include "grammar/factory.h"
 
+#include "grammar/unit_keys.h"
 #include "languages/arabic/arab_grammar.h"
 #include "languages/centralasian/armjan_grammar.h"
 #include "languages/centralasian/georg_grammar.h"
@@ -15,7 +16,9 @@
 namespace vela {
 namespace {
 
-using Maker = IGrammar& (*)(unsigned char transliterated);
+// Gives the grammar's one instance; with `unitKeys`, lists its unit words there
+// instead and gives null (or still the instance when its class lists none).
+using Maker = IGrammar* (*)(unsigned char transliterated, std::vector<std::string>* unitKeys);
 
 // The one instance of a grammar class: built on first use, never destroyed
 // before the library is unloaded.
@@ -26,13 +29,14 @@ IGrammar& instance() {
 }
 
 template <class T>
-IGrammar& make(unsigned char) {
-  return instance<T>();
+IGrammar* make(unsigned char, std::vector<std::string>* unitKeys) {
+  if (unitKeys != nullptr && listUnitKeysOf<T>(*unitKeys)) return nullptr;
+  return &instance<T>();
 }
 
-IGrammar& makeRussian(unsigned char transliterated) {
-  if (transliterated == 0) return instance<RusGrammar>();
-  return instance<RusGrammarTrans>();
+IGrammar* makeRussian(unsigned char transliterated, std::vector<std::string>* unitKeys) {
+  if (transliterated == 0) return make<RusGrammar>(0, unitKeys);
+  return make<RusGrammarTrans>(transliterated, unitKeys);
 }
 
 struct TagRow {
@@ -101,10 +105,22 @@ constexpr TagRow kTags[] = {
 
 IGrammar& grammarFor(std::string_view tag, unsigned char transliterated, std::string& error) {
   for (const TagRow& row : kTags) {
-    if (tag == row.tag) return row.maker(transliterated);
+    if (tag == row.tag) return *row.maker(transliterated, nullptr);
   }
   error = " language tag incorrect";
   return instance<EnglishGrammar>();
+}
+
+bool listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys) {
+  Maker maker = make<EnglishGrammar>;
+  for (const TagRow& row : kTags) {
+    if (tag == row.tag) {
+      maker = row.maker;
+      break;
+    }
+  }
+  // A class that lists no keys gives its instance instead.
+  return maker(transliterated, &keys) == nullptr;
 }
 
 }  // namespace vela

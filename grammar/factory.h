@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "grammar/igrammar.h"
 
@@ -16,5 +17,10 @@ namespace vela {
 // Grammars hold no state, so each class has one instance that lives as long
 // as the library: the result is never owned by the caller and never released.
 IGrammar& grammarFor(std::string_view tag, unsigned char transliterated, std::string& error);
+
+// Appends to `keys` the unit words the grammar of `tag` lists for the tools
+// (grammar/unit_keys.h); false when its class lists none. An unknown tag is
+// English, as above.
+bool listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys);
 
 }  // namespace vela

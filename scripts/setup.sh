@@ -11,6 +11,7 @@ packages=(
   clang-format clang-tidy
   libicu-dev
   locales
+  libsndfile1-dev python3 python3-pytest espeak-ng
 )
 
 missing=()

@@ -1,12 +1,16 @@
 // Kazakh.
 #pragma once
 
-#include "grammar/grammar_base.h"
+#include "languages/centralasian/kazakh_design.h"
 
 namespace vela {
 
-// Its words and readings are not built yet: every operation keeps the
-// GrammarBase default, and no unit word is known.
-class KazahGrammar final : public GrammarBase<KazahGrammar> {};
+// Kazakh with Latin prompt names ("bir", "zhuz", "qangtarynda"): cardinal and
+// ordinal numbers, dates as year, day, month, clock times, spans, counts and
+// money with tiyn and cents: the Kazakh design over the Kazakh tables.
+class KazahGrammar final : public KazakhDesignGrammar<KazahGrammar> {
+ public:
+  static const centralasian::KazakhStyleLanguage& language();
+};
 
 }  // namespace vela

@@ -1,12 +1,16 @@
 // Uzbek.
 #pragma once
 
-#include "grammar/grammar_base.h"
+#include "languages/centralasian/kazakh_design.h"
 
 namespace vela {
 
-// Its words and readings are not built yet: every operation keeps the
-// GrammarBase default, and no unit word is known.
-class UzbekGrammar final : public GrammarBase<UzbekGrammar> {};
+// Uzbek with Latin prompt names in lower-case ASCII ("bir", "yuz", "tort"):
+// built like Kazakh, with the Uzbek tables. Ordinals take -inchi, or -nchi
+// after a vowel; dates are year, day, month; money in som and tiyin.
+class UzbekGrammar final : public KazakhDesignGrammar<UzbekGrammar> {
+ public:
+  static const centralasian::KazakhStyleLanguage& language();
+};
 
 }  // namespace vela

@@ -2,7 +2,8 @@
 # Installs a build tree into a fresh prefix under it, checks the layout, and
 # builds and runs two hosts against the installed tree only: a C program with
 # pkg-config, and a CMake project with find_package(vela). With a test jar, also
-# runs the JVM tests against the installed jar and library.
+# runs the JVM tests against the installed jar and library. Without sanitizer
+# flags, also imports the installed Python module with Debian's python3.
 # Usage: install_test.sh BUILD_DIR CONSUMER_DIR LIBDIR CC CXX [EXTRA_FLAGS] [JVM_TEST_JAR]
 set -euo pipefail
 build=$(realpath "$1") consumers=$(realpath "$2") libdir=$3 cc=$4 cxx=$5 flags=${6:-} jvm_tests=${7:-}
@@ -13,7 +14,8 @@ mkdir -p "$work"
 
 cmake --install "$build" --prefix "$prefix" >"$work/install.log"
 for f in "$libdir/libvela.so" include/vela/vela.h bin/vela share/java/vela.jar \
-  "$libdir/pkgconfig/vela.pc" "$libdir/cmake/vela/velaConfig.cmake"; do
+  "$libdir/pkgconfig/vela.pc" "$libdir/cmake/vela/velaConfig.cmake" \
+  lib/python3/dist-packages/vela/__init__.py; do
   [ -e "$prefix/$f" ] || { echo "FAILED: $f not installed"; exit 1; }
 done
 
@@ -30,6 +32,16 @@ cmake -S "$consumers/cmake_consumer" -B "$work/cmake-consumer" -G Ninja \
   -DCMAKE_CXX_FLAGS="$flags" -DCMAKE_EXE_LINKER_FLAGS="$flags" >"$work/cmake-consumer.log"
 cmake --build "$work/cmake-consumer" >>"$work/cmake-consumer.log"
 "$work/cmake-consumer/consumer"
+
+if [ -z "$flags" ]; then
+  # The module finds the installed library by itself, wherever the tree lies.
+  spoken=$(env -u VELA_LIBRARY -u LD_LIBRARY_PATH PYTHONPATH="$prefix/lib/python3/dist-packages" \
+    /usr/bin/python3 -c "import vela; print(vela.speak('ru', '21руб'), vela.library_path)")
+  case "$spoken" in
+    "['двадцать', 'один', 'рубль'] $prefix/"*) ;;
+    *) echo "FAILED: the installed Python module says: $spoken"; exit 1 ;;
+  esac
+fi
 
 if [ -n "$jvm_tests" ]; then
   java -Djava.library.path="$prefix/$libdir" -cp "$prefix/share/java/vela.jar:$jvm_tests" VelaJvmTest

@@ -61,6 +61,19 @@ const ToolCase kCases[] = {
     {"-l en 1.05usd", "", "one dollar and five cents\n", 0, ""},
     {"-l ru", "21руб\n7:05\n", "двадцать один рубль\nсемь часов пять минут\n", 0, ""},
     {"-l ru 25:00 1:00", "", "25:00\nодин час ноль минут\n", 0, "wrong time (hours) 25"},
+    // a batch file saved with a byte-order mark; only the first line may carry it
+    {"-l ru",
+     "\xEF\xBB\xBF"
+     "21руб\r\n5\n",
+     "двадцать один рубль\nпять\n", 0, ""},
+    {"-l en",
+     "\xEF\xBB\xBF"
+     "\n",
+     "\n", 0, ""},
+    // names and file names of the recordings check
+    {"prompts -l ru 5", "", "", 2, "usage"},
+    {"say -l ru 5", "", "", 2, "--voice DIR"},
+    {"prompts -l ru --check /nonexistent/dir", "", "", 2, "not a directory"},
 };
 
 TEST(VelaToolTest, Table) {
@@ -79,7 +92,7 @@ TEST(VelaToolTest, Table) {
 TEST(VelaToolTest, HelpExplainsUsage) {
   const ToolResult r = runTool("--help");
   EXPECT_EQ(r.status, 0);
-  for (const char* word : {"-l TAG", "-t", "--raw", "standard input", "example"})
+  for (const char* word : {"-l TAG", "-t", "--raw", "standard input", "example", "prompts", "--check", "say"})
     EXPECT_NE(r.out.find(word), std::string::npos) << word;
 }
 

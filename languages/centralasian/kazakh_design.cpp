@@ -1,0 +1,102 @@
+#include "languages/centralasian/kazakh_design.h"
+
+namespace vela::centralasian {
+namespace {
+
+// A scale word with nothing after it: its ordinal suffix fuses onto it.
+void endOnScale(const KazakhStyleNumbers& numbers, const DigitGroup& units, const ScaleWord& scale,
+                std::string& out) {
+  if (hasDigits(units))
+    speakKazakhGroup(numbers, units, out, true);
+  else
+    out += scale.ordinalSuffix;
+}
+
+}  // namespace
+
+// 11..19 are said as ten and a digit ("on bes").
+void speakKazakhGroup(const KazakhStyleNumbers& numbers, DigitGroup group, std::string& out, bool ordinal) {
+  normaliseTeen(group);
+  std::string text = " ";
+  if (group.value == 0) text += numbers.zero;
+  if (group.hundreds != 0) {
+    if (group.hundreds > 100) text += wordAt(numbers.ones, group.hundreds / 100);
+    text += numbers.hundred.word;
+    if (ordinal && group.tens == 0 && group.units == 0) text += numbers.hundred.ordinalSuffix;
+  }
+  if (group.tens != 0) {
+    text += " ";
+    text += wordAt(ordinal && group.units == 0 ? numbers.ordinalTens : numbers.tens, group.tens / 10);
+  }
+  if (group.units != 0) {
+    text += " ";
+    text += wordAt(ordinal ? numbers.ordinalOnes : numbers.ones, group.units);
+  }
+  out += text;
+}
+
+// Only the last twelve digits are read: the milliards group counts its own
+// three digits, never the value of everything above them.
+// Higher groups are always cardinal; the ordinal mark goes on the units group
+// or, when it is empty, on the last scale word. A cardinal keeps every group.
+void speakKazakhInteger(const KazakhStyleNumbers& numbers, const std::string& digits, std::string& out,
+                        bool ordinal) {
+  const DigitGroup g9 = groupOf(digits, 9), g6 = groupOf(digits, 6), g3 = groupOf(digits, 3),
+                   g0 = groupOf(digits, 0);
+  const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
+
+  bool thousandsNext = false;  // an ordinal milliard with thousands skips the millions
+  if (hasDigits(g9)) {
+    speakKazakhGroup(numbers, g9, out, false);
+    out += numbers.milliard.word;
+    if (ordinal && !m) {
+      if (!t) return endOnScale(numbers, g0, numbers.milliard, out);
+      thousandsNext = true;
+    }
+  }
+  if (!thousandsNext && m) {
+    speakKazakhGroup(numbers, g6, out, false);
+    out += numbers.million.word;
+    if (ordinal && !t) return endOnScale(numbers, g0, numbers.million, out);
+  }
+  if (!t) {
+    if (u) speakKazakhGroup(numbers, g0, out, ordinal);
+    return;
+  }
+  speakKazakhGroup(numbers, g3, out, false);
+  out += numbers.thousand.word;
+  if (ordinal)
+    endOnScale(numbers, g0, numbers.thousand, out);
+  else if (u)
+    speakKazakhGroup(numbers, g0, out, false);
+}
+
+int speakKazakhDate(const KazakhStyleLanguage& language, const std::string& day, const std::string& month,
+                    const std::string& year, std::string& out) {
+  std::string text;
+  speakKazakhInteger(*language.numbers, year, text, true);
+  text += language.yearWord;
+  DigitGroup group;
+  if (!dayAccepted(day, group)) return 0;
+  text += " ";
+  speakKazakhInteger(*language.numbers, day, text, true);
+  if (!monthAccepted(month, group)) return 0;
+  text += " ";
+  text += wordAt(language.tables->months, group.value);
+  out += text;
+  return 1;
+}
+
+void speakKazakhHours(const KazakhStyleLanguage& language, const std::string& hours,
+                      const std::string& minutes, std::string& out) {
+  out += language.hoursLead;
+  speakKazakhClockGroup(language, hours, out);
+  out += language.hoursWord;
+  speakKazakhClockGroup(language, minutes, out);
+}
+
+void speakKazakhClockGroup(const KazakhStyleLanguage& language, const std::string& digits, std::string& out) {
+  speakKazakhGroup(*language.numbers, groupOf(digits, 0), out, false);
+}
+
+}  // namespace vela::centralasian

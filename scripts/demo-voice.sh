@@ -1,0 +1,61 @@
+#!/usr/bin/env bash
+# Makes a placeholder voice for one language: a WAV file for every prompt the
+# language can answer with, spoken by espeak-ng, so that `vela say` can be
+# heard before real recordings exist.
+#
+#   scripts/demo-voice.sh TAG [-t] [DIR]     (DIR defaults to voice/TAG, voice/TAG-t with -t)
+#
+# Then: build/vela say -l TAG --voice DIR -o x.wav TEXT
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+usage() { echo "usage: scripts/demo-voice.sh TAG [-t] [DIR]" >&2; exit 2; }
+[ $# -ge 1 ] || usage
+tag=$1
+shift
+mode=()
+if [ "${1:-}" = "-t" ]; then
+  mode=(-t)
+  shift
+fi
+dir=${1:-voice/$tag${mode:+-t}}
+
+vela=${VELA:-build/vela}
+if [ ! -x "$vela" ]; then
+  echo "demo-voice: no $vela; build it first: cmake --build build --target vela" >&2
+  exit 2
+fi
+if ! command -v espeak-ng >/dev/null; then
+  echo "demo-voice: espeak-ng is missing; run scripts/setup.sh" >&2
+  exit 2
+fi
+
+# The espeak-ng voice that reads the language's prompt names best. Names in
+# Latin transliteration are read by a voice that pronounces Latin letters
+# phonetically when espeak-ng has none for the language in that script: Polish
+# for Ukrainian and transliterated Russian, Turkish for Kazakh, Persian in
+# Latin letters for Tajik, Esperanto for Georgian, Armenian and Arabic.
+voice_for() {
+  case "$1" in
+    ru | rus | RUSSIAN) if [ ${#mode[@]} -gt 0 ]; then echo pl; else echo ru; fi ;;
+    uk | ukr | UKRAINIAN | UKRANIAN | UKRAINIEN | UKRAINE) echo pl ;;
+    ro | rom | rum | mo | mol | ROMANIAN | MOLDOVA) echo ro ;;
+    uz | uzb | UZBEK | OUSZBEK | UZBEKISTAN) echo uz ;;
+    kk | kaz | KAZAH | KAZAKH | KAZAKHSTAN) echo tr ;;
+    tg | tgk | TADJIK | TAJIK | TAJIKISTAN) echo fa-latn ;;
+    ka | geo | GEORGIA | GEORGIAN | hy | ARMJAN | ar | ARAB) echo eo ;;
+    *) echo en-us ;;
+  esac
+}
+voice=$(voice_for "$tag")
+
+mkdir -p "$dir"
+count=0
+while IFS=$'\t' read -r name file; do
+  # What espeak-ng says: the name, with marks that are no letters read as pauses.
+  spoken=$(printf '%s' "$name" | tr '^_' '  ')
+  espeak-ng -v "$voice" -s 150 -w "$dir/$file" -- "$spoken"
+  count=$((count + 1))
+done < <("$vela" prompts -l "$tag" "${mode[@]}" --files)
+echo "demo-voice: $count recordings in $dir (espeak-ng voice $voice)"
+"$vela" prompts -l "$tag" "${mode[@]}" --check "$dir" >/dev/null
