@@ -12,30 +12,31 @@ void splitDigitGroups(const std::string& digits, DigitList& list) {
   for (auto it = digits.rbegin(); it != digits.rend(); ++it) list.emplace_back(1, *it);
 }
 
-std::string TextDecoder::group(int k) const {
-  if (k < 0 || static_cast<std::size_t>(k) >= match.size()) return {};
-  return match[k].matched ? match[k].str() : std::string();
+const std::string& TextDecoder::group(int k) {
+  static const std::string kNoGroup;
+  if (k < 0 || k >= TokenMatch::kGroups) return kNoGroup;
+  return groups_[k].assign(match.group[k]);
 }
 
 bool TextDecoder::onNegativeAmount() {
-  DigitList intList;
-  DigitList fracList;
-  splitDigitGroups(group(1), intList);
-  splitDigitGroups(group(2), fracList);
-  grammar->speakAmount(intList, fracList, group(1), group(2), group(3), output);
-  std::string minus;
-  grammar->appendMinus(minus);
-  output = minus + output;
+  intList_.clear();
+  fracList_.clear();
+  splitDigitGroups(group(1), intList_);
+  splitDigitGroups(group(2), fracList_);
+  grammar->speakAmount(intList_, fracList_, group(1), group(2), group(3), output);
+  minus_.clear();
+  grammar->appendMinus(minus_);
+  output.insert(0, minus_);
   return true;
 }
 
 bool TextDecoder::onAmount() {
-  DigitList intList;
-  DigitList fracList;
-  splitDigitGroups(group(1), intList);
-  splitDigitGroups(group(2), fracList);
+  intList_.clear();
+  fracList_.clear();
+  splitDigitGroups(group(1), intList_);
+  splitDigitGroups(group(2), fracList_);
   if (grammar->speakSpecialAmount(group(1), group(3), output)) return true;
-  grammar->speakAmount(intList, fracList, group(1), group(2), group(3), output);
+  grammar->speakAmount(intList_, fracList_, group(1), group(2), group(3), output);
   return true;
 }
 
@@ -49,31 +50,30 @@ bool TextDecoder::onDate() {
 }
 
 bool TextDecoder::onMarkedDate() {
-  speakDateFromMatch("I");
+  static const std::string kMarked = "I";  // stands for the century of a date marked "(I)"
+  speakDateFromMatch(kMarked);
   return true;
 }
 
-namespace {
-
-// The whole token without its "x" characters (the matched texts hold none).
-DigitList wholeTokenWithoutX(const boost::smatch& match) {
-  std::string token = match[0].str();
+// The whole token without its "x" characters (the matched texts hold none),
+// as a one-element list.
+void TextDecoder::speakWholeToken(void (IGrammar::*speak)(const DigitList&, std::string&)) {
+  tokenList_.resize(1);
+  std::string& token = tokenList_[0];
+  token.assign(match.group[0]);
   std::erase(token, 'x');
-  return DigitList{token};
+  (grammar->*speak)(tokenList_, output);
 }
 
-}  // namespace
-
 bool TextDecoder::onNumber() {
-  grammar->speakNumber(wholeTokenWithoutX(match), output);
+  speakWholeToken(&IGrammar::speakNumber);
   return true;
 }
 
 bool TextDecoder::onDigitString() {
-  grammar->speakDigitString(wholeTokenWithoutX(match), output);
+  speakWholeToken(&IGrammar::speakDigitString);
   return true;
 }
-
 bool TextDecoder::onDialString() {
   grammar->speakDialString(group(1), output);
   return true;

@@ -1,11 +1,10 @@
-// The token classifier: an ordered table of expressions, each with the handler
-// that speaks a token of its kind, and the runner that applies them.
+// The rule table: each token kind of the classifier with the handler that
+// speaks it, and the runner that applies them to a request's text.
 #pragma once
 
-#include <boost/function.hpp>
-#include <boost/regex.hpp>
 #include <string>
 
+#include "analysis/classifier.h"
 #include "grammar/igrammar.h"
 
 namespace vela {
@@ -13,19 +12,19 @@ namespace vela {
 class TextDecoder;
 
 struct DecodeRule {
-  boost::regex pattern;                         // matched against the whole text
-  boost::function<bool(TextDecoder&)> handler;  // one of TextDecoder's on... handlers
+  TokenRule token;                 // which whole-text shape the classifier must find
+  bool (TextDecoder::*handler)();  // one of TextDecoder's on... handlers
 };
 
-inline constexpr int kDecodeRuleCount = 18;
+inline constexpr int kDecodeRuleCount = kTokenRuleCount;
 
-// Built once when the library is loaded; only read afterwards.
+// Constant data: nothing is built when the library is loaded.
 extern const DecodeRule decodeRules[kDecodeRuleCount];
 
 // Speaks decoder.text: a text containing ".wav" passes through; otherwise the
-// first rule whose leftmost match is the whole text replaces it with its
-// handler's prompt names. A text no rule covers is left as it is. The result is
-// left in decoder.output.
+// first rule that takes the whole text replaces it with its handler's prompt
+// names, and the later rules are tried on that result. A text no rule covers
+// is left as it is. The result is left in decoder.output.
 void runRules(TextDecoder& decoder);
 
 // Appends the digits of `digits` to `list`, least significant first, one per

@@ -16,14 +16,22 @@
 namespace vela {
 namespace {
 
-// Makes the grammar; with `unitKeys`, only lists its unit words there instead
-// (and returns null).
+// Gives the grammar's one instance; with `unitKeys`, only lists its unit words
+// there instead (and gives null).
 using Maker = IGrammar* (*)(unsigned char transliterated, std::vector<std::string>* unitKeys);
+
+// The one instance of a grammar class: built on first use, never destroyed
+// before the library is unloaded.
+template <class T>
+IGrammar& instance() {
+  static T grammar;
+  return grammar;
+}
 
 template <class T>
 IGrammar* make(unsigned char, std::vector<std::string>* unitKeys) {
   static_assert(ListsUnitKeys<T>, "a language class lists its unit words (grammar/unit_keys.h)");
-  if (unitKeys == nullptr) return new T;
+  if (unitKeys == nullptr) return &instance<T>();
   T::listUnitKeys(*unitKeys);
   return nullptr;
 }
@@ -34,7 +42,7 @@ IGrammar* makeRussian(unsigned char transliterated, std::vector<std::string>* un
 }
 
 struct TagRow {
-  const char* tag;
+  std::string_view tag;
   Maker maker;
 };
 
@@ -97,13 +105,12 @@ constexpr TagRow kTags[] = {
 
 }  // namespace
 
-boost::shared_ptr<IGrammar> makeGrammar(const std::string& tag, unsigned char transliterated,
-                                        std::string& error) {
+IGrammar& grammarFor(std::string_view tag, unsigned char transliterated, std::string& error) {
   for (const TagRow& row : kTags) {
-    if (tag == row.tag) return boost::shared_ptr<IGrammar>(row.maker(transliterated, nullptr));
+    if (tag == row.tag) return *row.maker(transliterated, nullptr);
   }
   error = " language tag incorrect";
-  return boost::shared_ptr<IGrammar>(new EnglishGrammar);
+  return instance<EnglishGrammar>();
 }
 
 void listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys) {

@@ -1,8 +1,8 @@
 // The only place where language tags are known.
 #pragma once
 
-#include <boost/shared_ptr.hpp>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "grammar/igrammar.h"
@@ -12,9 +12,11 @@ namespace vela {
 // The grammar for `tag` (exact, case-sensitive). `transliterated` matters only
 // for the Russian tags: 0 gives Cyrillic prompt names, any other value Latin
 // ones. An unknown tag gets the English grammar and " language tag incorrect"
-// in `error`; a known tag leaves `error` alone. Never returns an empty pointer.
-boost::shared_ptr<IGrammar> makeGrammar(const std::string& tag, unsigned char transliterated,
-                                        std::string& error);
+// in `error`; a known tag leaves `error` alone.
+//
+// Grammars hold no state, so each class has one instance that lives as long
+// as the library: the result is never owned by the caller and never released.
+IGrammar& grammarFor(std::string_view tag, unsigned char transliterated, std::string& error);
 
 // Appends to `keys` the unit words the grammar of `tag` lists for the tools
 // (grammar/unit_keys.h). An unknown tag is English, as above.

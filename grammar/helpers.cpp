@@ -7,26 +7,10 @@
 namespace vela {
 namespace {
 
-// Capital -> small pairs of Windows-1251 beyond A-Z and А-Я.
-constexpr std::pair<unsigned char, unsigned char> kOtherLetterPairs[] = {
-    {0x80, 0x90}, {0x81, 0x83}, {0x8A, 0x9A}, {0x8C, 0x9C}, {0x8D, 0x9D},
-    {0x8E, 0x9E}, {0x8F, 0x9F}, {0xA1, 0xA2}, {0xA3, 0xBC}, {0xA5, 0xB4},
-    {0xA8, 0xB8}, {0xAA, 0xBA}, {0xAF, 0xBF}, {0xB2, 0xB3}, {0xBD, 0xBE},
-};
-
-constexpr std::array<unsigned char, 256> makeLowerTable() {
-  std::array<unsigned char, 256> t{};
-  for (int c = 0; c < 256; ++c) t[c] = static_cast<unsigned char>(c);
-  for (int c = 'A'; c <= 'Z'; ++c) t[c] = static_cast<unsigned char>(c + 32);
-  for (int c = 0xC0; c <= 0xDF; ++c) t[c] = static_cast<unsigned char>(c + 32);
-  for (auto [upper, lower] : kOtherLetterPairs) t[upper] = lower;
-  return t;
-}
-
-constexpr auto kLower = makeLowerTable();
+constexpr const auto& kLower = detail::kLowerCp1251;
 
 // A digit's value; any other byte reads as 0.
-int digitAt(const std::string& s, std::size_t i) {
+int digitAt(std::string_view s, std::size_t i) {
   char c = s[i];
   return (c >= '0' && c <= '9') ? c - '0' : 0;
 }
@@ -52,7 +36,7 @@ void getDigitGroup(const std::string& number, DigitGroup* group, int cut) {
   *group = DigitGroup{};
   std::size_t drop = cut > 0 ? static_cast<std::size_t>(cut) : 0;
   if (number.size() <= drop) return;
-  const std::string t = number.substr(0, number.size() - drop);
+  const std::string_view t = std::string_view(number).substr(0, number.size() - drop);
   group->value = readInt(t);
   const std::size_t n = t.size();
   if (n == 1) {
@@ -67,18 +51,6 @@ void getDigitGroup(const std::string& number, DigitGroup* group, int cut) {
     group->units = digitAt(t, n - 1);
   }
   if (n >= 3) group->hundreds = digitAt(t, n - 3) * 100;
-}
-
-bool matchesWord(const std::string& token, const char* word) {
-  if (word == nullptr) return false;
-  const std::size_t wordLength = std::strlen(word);
-  if (token.empty() && wordLength == 0) return true;
-  if (wordLength >= 256 || token.size() >= 256) return false;
-  if (token.size() != wordLength) return false;
-  for (std::size_t i = 0; i < wordLength; ++i) {
-    if (kLower[static_cast<unsigned char>(token[i])] != static_cast<unsigned char>(word[i])) return false;
-  }
-  return true;
 }
 
 }  // namespace vela

@@ -2,8 +2,10 @@
 // and overflow-safe reading of numbers.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace vela {
 
@@ -25,10 +27,42 @@ struct DigitGroup {
 // as the digit 0 in hundreds/tens/units, so no table is ever indexed by it.
 void getDigitGroup(const std::string& number, DigitGroup* group, int cut);
 
+namespace detail {
+
+// Capital -> small pairs of Windows-1251 beyond A-Z and А-Я.
+inline constexpr std::pair<unsigned char, unsigned char> kOtherLetterPairs[] = {
+    {0x80, 0x90}, {0x81, 0x83}, {0x8A, 0x9A}, {0x8C, 0x9C}, {0x8D, 0x9D},
+    {0x8E, 0x9E}, {0x8F, 0x9F}, {0xA1, 0xA2}, {0xA3, 0xBC}, {0xA5, 0xB4},
+    {0xA8, 0xB8}, {0xAA, 0xBA}, {0xAF, 0xBF}, {0xB2, 0xB3}, {0xBD, 0xBE},
+};
+
+constexpr std::array<unsigned char, 256> makeLowerTable() {
+  std::array<unsigned char, 256> t{};
+  for (int c = 0; c < 256; ++c) t[c] = static_cast<unsigned char>(c);
+  for (int c = 'A'; c <= 'Z'; ++c) t[c] = static_cast<unsigned char>(c + 32);
+  for (int c = 0xC0; c <= 0xDF; ++c) t[c] = static_cast<unsigned char>(c + 32);
+  for (auto [upper, lower] : kOtherLetterPairs) t[upper] = lower;
+  return t;
+}
+
+inline constexpr std::array<unsigned char, 256> kLowerCp1251 = makeLowerTable();
+
+}  // namespace detail
+
 // Lower-cases `token` with the fixed Windows-1251 letter mapping (A-Z, А-Я, Ё,
 // and the other capital/small pairs of the code page) and compares it with the
-// lower-case table word. Independent of the process locale.
-bool matchesWord(const std::string& token, const char* word);
+// lower-case table word. Independent of the process locale. Inline: the unit
+// lookups of the languages call it for every row of their tables.
+inline bool matchesWord(const std::string& token, const char* word) {
+  if (word == nullptr || token.size() >= 256) return false;
+  // One walk over both: the first differing byte, or the end of the table
+  // word, decides without measuring the word first.
+  for (const char c : token) {
+    const auto w = static_cast<unsigned char>(*word++);
+    if (w == 0 || detail::kLowerCp1251[static_cast<unsigned char>(c)] != w) return false;
+  }
+  return *word == '\0';
+}
 
 // Lower-case of one Windows-1251 byte under that mapping.
 unsigned char lowerCp1251(unsigned char c);

@@ -2,24 +2,43 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <utility>
 
 #include "analysis/rules.h"
 #include "grammar/factory.h"
 
 namespace vela {
 
-TextDecoder::TextDecoder(const std::string& tag, const std::string& requestText, unsigned char mode)
-    : languageTag(tag), text(requestText) {
-  output.reserve(16);
-  grammar = makeGrammar(languageTag, mode, errorText);
-  failed = errorText.empty() ? 0 : 1;
+TextDecoder::TextDecoder(std::string_view tag, std::string_view requestText, unsigned char mode) {
+  reset(tag, requestText, mode);
+}
+
+TextDecoder::TextDecoder(IGrammar& injected, std::string_view requestText)
+    : grammar(&injected), text(requestText) {
   trimInput(text);
 }
 
-TextDecoder::TextDecoder(boost::shared_ptr<IGrammar> injected, const std::string& requestText)
-    : grammar(std::move(injected)), text(requestText) {
-  output.reserve(16);
+void TextDecoder::reserveBuffers() {
+  languageTag.reserve(kRequestBytes);
+  text.reserve(kRequestBytes);
+  output.reserve(kReadingBytes);
+  work.reserve(kReadingBytes);
+  errorText.reserve(kRequestBytes);
+  for (std::string& group : groups_) group.reserve(kRequestBytes);
+  minus_.reserve(kRequestBytes);
+  intList_.reserve(9);
+  fracList_.reserve(9);
+  tokenList_.resize(1);
+  tokenList_[0].reserve(kRequestBytes);
+}
+
+void TextDecoder::reset(std::string_view tag, std::string_view requestText, unsigned char mode) {
+  languageTag.assign(tag);
+  text.assign(requestText);
+  output.clear();
+  errorText.clear();
+  match = TokenMatch{};
+  grammar = &grammarFor(languageTag, mode, errorText);
+  failed = errorText.empty() ? 0 : 1;
   trimInput(text);
 }
 
@@ -33,7 +52,8 @@ int trimInput(std::string& s) {
     return 1;
   }
   const std::size_t last = s.find_last_not_of(' ');
-  s = s.substr(first, last - first + 1);
+  s.erase(last + 1);
+  s.erase(0, first);
   return 1;
 }
 
@@ -63,11 +83,17 @@ char* copyToMallocBuffer(const char* bytes, std::size_t length) {
 int decodeText(const char* languageTag, const char* text, char** out, unsigned char mode) {
   if (out == nullptr) return -1;
   *out = nullptr;
-  const std::string callerText = text != nullptr ? text : "";
-  TextDecoder decoder(languageTag != nullptr ? languageTag : "", callerText, mode);
+  const std::string_view callerText = text != nullptr ? text : "";
+  // One decoder per thread, reset for each request: its buffers stay warm.
+  thread_local TextDecoder decoder = [] {
+    TextDecoder warm;
+    warm.reserveBuffers();
+    return warm;
+  }();
+  decoder.reset(languageTag != nullptr ? languageTag : "", callerText, mode);
   runRules(decoder);
   // Nothing spoken: the caller gets its own text back, untrimmed.
-  const std::string& result = decoder.output.empty() ? callerText : decoder.output;
+  const std::string_view result = decoder.output.empty() ? callerText : std::string_view(decoder.output);
   *out = copyToMallocBuffer(result.data(), result.size());
   return *out == nullptr ? -2 : 0;
 }

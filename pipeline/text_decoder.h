@@ -1,23 +1,33 @@
 // TextDecoder: the state of one request, from the caller's text to the prompt
-// names. Built on the stack for one request; nothing in it outlives the call.
+// names. Its strings keep their capacity when the decoder is reset for the next
+// request, so a thread that reuses one decoder allocates nothing once warm.
 #pragma once
 
-#include <boost/regex.hpp>
-#include <boost/shared_ptr.hpp>
 #include <string>
+#include <string_view>
 
+#include "analysis/classifier.h"
 #include "grammar/igrammar.h"
 
 namespace vela {
 
 class TextDecoder {
  public:
-  // Asks the factory for the grammar of `languageTag` (mode selects Cyrillic or
-  // transliterated Russian) and trims `text`. An unknown tag gives English and
-  // sets `failed`.
-  TextDecoder(const std::string& languageTag, const std::string& text, unsigned char mode);
+  // Takes the grammar of `languageTag` (mode selects Cyrillic or transliterated
+  // Russian) and trims `text`. An unknown tag gives English and sets `failed`.
+  TextDecoder(std::string_view languageTag, std::string_view text, unsigned char mode);
   // Uses the given grammar as it is: lets a caller (a test) put in any grammar.
-  TextDecoder(boost::shared_ptr<IGrammar> grammar, const std::string& text);
+  TextDecoder(IGrammar& grammar, std::string_view text);
+  TextDecoder() = default;
+
+  // Gives every buffer room for a text of kRequestBytes and a reading of
+  // kReadingBytes, so that such requests on this decoder allocate nothing.
+  static constexpr std::size_t kRequestBytes = 64;
+  static constexpr std::size_t kReadingBytes = 1024;
+  void reserveBuffers();
+
+  // Starts a new request on this decoder, as the first constructor does.
+  void reset(std::string_view languageTag, std::string_view text, unsigned char mode);
 
   const std::string& getOutput() const { return output; }
   const std::string& getErrorText() const { return errorText; }
@@ -38,17 +48,25 @@ class TextDecoder {
   bool onDuration();
   bool onDurationWithSeconds();
 
-  boost::shared_ptr<IGrammar> grammar;
+  IGrammar* grammar = nullptr;  // one instance per grammar class, never owned
   std::string languageTag;
   std::string text;       // trimmed at construction; the rule runner's input
   std::string output;     // the handlers' and then the rule runner's result
   std::string errorText;  // the factory's complaint about the tag, if any
-  boost::smatch match;    // groups of the match the current handler works on
+  TokenMatch match;       // groups of the match the current handler works on
   int failed = 0;         // 1 when the tag was not recognised
+  std::string work;       // the rule runner's text between rules
 
  private:
-  std::string group(int k) const;
+  // Group k of `match` as a string (empty when the rule has no such group).
+  const std::string& group(int k);
   void speakDateFromMatch(const std::string& century);
+  void speakWholeToken(void (IGrammar::*speak)(const DigitList&, std::string&));
+
+  // Argument buffers of the handlers, reused from request to request.
+  std::string groups_[TokenMatch::kGroups];
+  std::string minus_;
+  DigitList intList_, fracList_, tokenList_;
 };
 
 // Trims leading and trailing spaces (0x20 only) of a text of 1 to 512 bytes and
@@ -62,6 +80,8 @@ int collapseSpaces(std::string& s);
 // Runs one request: the prompt names of `text` in a malloc'ed, zero-terminated
 // buffer stored in *out (the caller's own text when nothing was spoken).
 // Returns 0, or -2 when the buffer cannot be allocated (*out is then null).
+// Apart from that buffer, a request of up to 64 bytes with a reading of up to
+// 1 KB allocates nothing once the calling thread has made one such request.
 int decodeText(const char* languageTag, const char* text, char** out, unsigned char mode);
 
 }  // namespace vela

@@ -9,6 +9,7 @@ packages=(
   googletest libgtest-dev libgmock-dev libbenchmark-dev
   openjdk-17-jdk-headless
   clang-format clang-tidy
+  libicu-dev
   locales
   libsndfile1-dev python3 python3-pytest espeak-ng
 )

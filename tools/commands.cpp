@@ -72,7 +72,7 @@ bool isReadableFile(const std::string& path) {
 
 bool checkTag(const Options& options) {
   std::string tagError;
-  makeGrammar(options.tag, options.mode, tagError);
+  grammarFor(options.tag, options.mode, tagError);
   if (tagError.empty()) return true;
   std::fprintf(stderr, "vela: unknown language tag \"%s\"; speaking English\n", options.tag.c_str());
   return false;

@@ -6,7 +6,6 @@
 #include <boost/shared_ptr.hpp>
 #include <cstdio>
 #include <map>
-#include <stdexcept>
 
 #include "analysis/rules.h"
 #include "grammar/factory.h"
@@ -20,40 +19,29 @@ namespace {
 using Grammar = boost::shared_ptr<IGrammar>;
 
 // Whether the rule runner replaces `text` (already trimmed) by prompt names:
-// the same test as the runner's, a leftmost match that is the whole text.
+// the same test as the runner's, a rule that takes the whole text.
 bool someRuleTakes(const std::string& text) {
   if (text.find(".wav") != std::string::npos) return false;
-  const auto flags = boost::match_default | boost::match_not_dot_newline | boost::match_not_dot_null |
-                     boost::match_continuous;
-  for (const DecodeRule& rule : decodeRules) {
-    boost::smatch found;
-    try {
-      if (!boost::regex_search(text, found, rule.pattern, flags)) continue;
-    } catch (const std::runtime_error&) {
-      continue;
-    }
-    if (found.length(0) == static_cast<boost::smatch::difference_type>(text.size())) return true;
-  }
-  return false;
+  return rulesTakingWholeText(text) != 0;
 }
 
 // Whether the classifier gives `token` to the number reading: "1.5" is a
 // date (day.month), "1,5" and "1.50" are numbers.
 bool takenAsNumber(const std::string& token) {
   if (token.find('.') == std::string::npos || token.size() > 5) return true;
-  const auto flags = boost::match_default | boost::match_continuous;
-  for (const DecodeRule& rule : decodeRules) {
-    boost::smatch found;
-    if (!boost::regex_search(token, found, rule.pattern, flags)) continue;
-    if (found.length(0) != static_cast<boost::smatch::difference_type>(token.size())) continue;
-    const auto* handler = rule.handler.target<bool (TextDecoder::*)()>();
-    return handler != nullptr && *handler == &TextDecoder::onNumber;
-  }
-  return false;
+  TokenMatch match;
+  const int rule = classifyToken(token, 0, match);
+  return rule >= 0 && decodeRules[rule].handler == &TextDecoder::onNumber;
+}
+
+// The grammar of (tag, mode), held without owning it: grammars live as long as
+// the library.
+Grammar grammarOf(const std::string& tag, unsigned char mode, std::string& error) {
+  return Grammar(&grammarFor(tag, mode, error), [](IGrammar*) {});
 }
 
 std::optional<std::string> speakText(const Grammar& grammar, const std::string& text) {
-  TextDecoder decoder(grammar, text);
+  TextDecoder decoder(*grammar, text);
   if (!someRuleTakes(decoder.text)) return std::nullopt;
   runRules(decoder);
   return decoder.output;
@@ -214,7 +202,7 @@ std::vector<std::string> findUnitWords(const std::string& tag, unsigned char mod
   std::string error;
   std::vector<std::string> listed;
   listUnitKeys(tag, mode, listed);
-  return findUnitWords(makeGrammar(tag, mode, error), listed);
+  return findUnitWords(grammarOf(tag, mode, error), listed);
 }
 
 std::vector<std::string> findUnitWords(const boost::shared_ptr<IGrammar>& grammar,
@@ -237,7 +225,7 @@ std::vector<std::string> findUnitWords(const boost::shared_ptr<IGrammar>& gramma
 std::optional<std::vector<std::string>> speakNames(const std::string& tag, unsigned char mode,
                                                    const std::string& text) {
   std::string error;
-  const std::optional<std::string> spoken = speakText(makeGrammar(tag, mode, error), text);
+  const std::optional<std::string> spoken = speakText(grammarOf(tag, mode, error), text);
   if (!spoken) return std::nullopt;
   std::vector<std::string> names;
   splitNames(*spoken, names);
@@ -248,7 +236,7 @@ std::set<std::string> promptInventory(const std::string& tag, unsigned char mode
   std::string error;
   std::vector<std::string> listed;
   listUnitKeys(tag, mode, listed);
-  return promptInventory(makeGrammar(tag, mode, error), listed);
+  return promptInventory(grammarOf(tag, mode, error), listed);
 }
 
 std::set<std::string> promptInventory(const boost::shared_ptr<IGrammar>& grammar,

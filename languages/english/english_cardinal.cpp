@@ -40,7 +40,7 @@ GroupPhrase sayGroup(int hundreds, int tens, int units, bool saidBefore) {
 }  // namespace
 
 CardinalBuilder buildCardinal(const DigitList& digits) {
-  std::vector<int> d;
+  boost::container::small_vector<int, 15> d;
   for (const std::string& element : digits) d.push_back(digitValue(element));
   d.resize((d.size() + 2) / 3 * 3, 0);  // whole groups of three
 

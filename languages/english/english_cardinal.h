@@ -2,15 +2,17 @@
 // how words are joined into the output.
 #pragma once
 
+#include <boost/container/small_vector.hpp>
 #include <string>
-#include <vector>
 
 #include "grammar/igrammar.h"
 #include "languages/english/english_words.h"
 
 namespace vela::english {
 
-using WordList = std::vector<std::string>;
+// The words of one reading; held on the stack up to the size of any amount
+// (a request allocates nothing for them).
+using WordList = boost::container::small_vector<std::string, 24>;
 
 // One group of three digits as it is spoken: the hundreds, "and" when anything
 // was said before the tens and units ("one hundred and five", "one thousand
@@ -30,7 +32,7 @@ struct CardinalBuilder {
   // Most significant group first; empty when the number is zero. Otherwise the
   // last phrase is always the units group, even when its digits are all zero,
   // so a caller can put the unit word after the number there.
-  std::vector<GroupPhrase> phrases;
+  boost::container::small_vector<GroupPhrase, 5> phrases;
 };
 
 // The phrases of a number given as digits, least significant first, one digit

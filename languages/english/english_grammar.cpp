@@ -48,6 +48,7 @@ const CurrencyPair* findCurrency(const UnitRecord* record) {
 // A decimal text as digits, least significant first: "05" gives 5, 0.
 DigitList textToDigits(const std::string& text) {
   DigitList digits;
+  digits.reserve(text.size());  // one allocation per list
   for (auto c = text.rbegin(); c != text.rend(); ++c) digits.emplace_back(1, *c);
   return digits;
 }

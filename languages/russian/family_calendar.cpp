@@ -1,6 +1,6 @@
 // Dates, clock times and spans of time of the Russian family. A date or time
-// collects its words apart and appends them only when the whole of it is
-// valid: a rejected one leaves nothing in the output.
+// is appended word by word and cut back to where it began when a part of it
+// turns out invalid: a rejected one leaves nothing in the output.
 #include <cstdio>
 
 #include "languages/russian/family_speaker.h"
@@ -12,7 +12,8 @@ namespace vela {
 // (or none) gives the day and month only.
 int FamilySpeaker::speakDate(const std::string& day, const std::string& month, const std::string& year,
                              const std::string& caseMarker, std::string& out) const {
-  std::string words;
+  std::string& words = out;
+  const std::size_t start = out.size();
   DigitGroup group;
   getDigitGroup(day, &group, 0);
   if (group.value > 31 || group.value < 0) {
@@ -28,18 +29,17 @@ int FamilySpeaker::speakDate(const std::string& day, const std::string& month, c
   // Month 0 passes the date patterns but has no name: rejected like month 13.
   if (group.value > 12 || group.value < 1 || static_cast<std::size_t>(group.value) >= lang_.months.size()) {
     std::printf(" incorrect month %d \r\n", group.value);
+    out.resize(start);
     return 0;
   }
   words += ' ';
   words += lang_.months[group.value];
   DigitGroup thousands;
   getDigitGroup(year, &thousands, 3);
-  if (thousands.value == 0) {
-    out += words;
-    return 1;
-  }
+  if (thousands.value == 0) return 1;
   if (thousands.value != 1 && thousands.value != 2) {
     std::printf(" incorrect year %d \r\n", thousands.value);
+    out.resize(start);
     return 0;
   }
   if (year == "2000") {
@@ -56,7 +56,6 @@ int FamilySpeaker::speakDate(const std::string& day, const std::string& month, c
     speak3(group, kMasculine, 1, 1, words);
   }
   words += lang_.yearWord;
-  out += words;
   return 1;
 }
 
@@ -69,7 +68,8 @@ void FamilySpeaker::speakTimePart(const DigitGroup& group, int gender, int row, 
 // ноль минут"), zero seconds are not. The messages quote the hours text.
 void FamilySpeaker::speakClockTimeWithSeconds(const std::string& hours, const std::string& minutes,
                                               const std::string& seconds, std::string& out) const {
-  std::string words;
+  std::string& words = out;
+  const std::size_t start = out.size();
   DigitGroup group;
   getDigitGroup(hours, &group, 0);
   if (group.value > 24) {
@@ -80,6 +80,7 @@ void FamilySpeaker::speakClockTimeWithSeconds(const std::string& hours, const st
   getDigitGroup(minutes, &group, 0);
   if (group.value > 60) {
     std::printf("wrong time (minutes) %s\r\n", hours.c_str());
+    out.resize(start);
     return;
   }
   speakTimePart(group, kFeminine, lang_.minutesRow, words);
@@ -87,11 +88,11 @@ void FamilySpeaker::speakClockTimeWithSeconds(const std::string& hours, const st
   if (!seconds.empty() && group.value != 0) {
     if (group.value > 60) {
       std::printf("wrong time (secundes) %s\r\n", hours.c_str());
+      out.resize(start);
       return;
     }
     speakTimePart(group, kFeminine, lang_.secondsRow, words);
   }
-  out += words;
 }
 
 void FamilySpeaker::speakClockTime(const std::string& hours, const std::string& minutes,

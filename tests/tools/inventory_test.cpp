@@ -33,8 +33,8 @@ const char* const kTags[] = {"ENGLISH",  "eng",      "en",        "RUSSIAN",    
 const std::set<std::string>& inventoryOf(const std::string& tag, unsigned char mode) {
   static std::map<std::string, std::set<std::string>> byClass;
   std::string error;
-  const auto grammar = vela::makeGrammar(tag, mode, error);
-  const std::string cls = typeid(*grammar).name();
+  const vela::IGrammar& grammar = vela::grammarFor(tag, mode, error);
+  const std::string cls = typeid(grammar).name();
   auto it = byClass.find(cls);
   if (it == byClass.end()) it = byClass.emplace(cls, promptInventory(tag, mode)).first;
   return it->second;

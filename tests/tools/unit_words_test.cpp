@@ -141,7 +141,8 @@ struct Listing {
 Listing listingOf(const GrammarRow& row) {
   Listing listing;
   std::string error;
-  listing.grammar = vela::makeGrammar(row.tag, row.mode, error);
+  // Grammars live as long as the library: held here without owning them.
+  listing.grammar = Grammar(&vela::grammarFor(row.tag, row.mode, error), [](vela::IGrammar*) {});
   vela::listUnitKeys(row.tag, row.mode, listing.keys);
   for (const std::string& key : listing.keys) listing.lowerKeys.insert(lowered(key));
   return listing;

@@ -1,0 +1,418 @@
+// The one-pass classifier against the rules' regular expressions: the same
+// rules take the same texts, with the same groups, and a request gets the same
+// final answer, on stated examples, on generated token shapes with near-misses
+// and on random bytes.
+//
+// VELA_DIFFERENTIAL_TEXTS sets how many generated texts to try (default 100000);
+// VELA_DIFFERENTIAL_SEED the generator's seed.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "analysis/classifier.h"
+#include "analysis/rules.h"
+#include "grammar/cp1251.h"
+#include "grammar/factory.h"
+#include "grammar/grammar_base.h"
+#include "pipeline/text_decoder.h"
+#include "support/recording_grammar.h"
+#include "support/regex_rules.h"
+
+namespace vela {
+namespace {
+
+std::string escaped(const std::string& text) {
+  std::string shown;
+  for (unsigned char c : text) {
+    if (c >= 0x20 && c < 0x7F && c != '\\') {
+      shown += static_cast<char>(c);
+    } else {
+      char hex[8];
+      std::snprintf(hex, sizeof hex, "\\x%02X", c);
+      shown += hex;
+    }
+  }
+  return shown.size() > 120 ? shown.substr(0, 120) + "...(" + std::to_string(text.size()) + " bytes)" : shown;
+}
+
+// Bytes that shape tokens, and bytes at the edges of the classes.
+const std::string kAlphabet = std::string("0123456789.,|-:\"#*()I xabzAZ") +
+                              std::string("\xC0\xDF\xE0\xFF\xB8\xA8\x7F\x80\x1F\x7E\x00\x09", 12);
+
+class Corpus {
+ public:
+  explicit Corpus(std::uint64_t seed) : rng_(seed) {}
+
+  std::string next() {
+    // Long texts are few: the expressions backtrack over them in quadratic time.
+    if (below(32) == 0) return longDigits();
+    switch (below(8)) {
+      case 0:
+        return randomBytes();
+      case 1:
+        return fromAlphabet(below(12));
+      default:
+        return mutate(shape());
+    }
+  }
+
+ private:
+  std::size_t below(std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(rng_); }
+  bool chance(int percent) { return below(100) < static_cast<std::size_t>(percent); }
+  char any(const std::string& bytes) { return bytes[below(bytes.size())]; }
+
+  std::string digits(std::size_t lo, std::size_t hi) {
+    std::string s(lo + below(hi - lo + 1), '0');
+    for (char& c : s) c = static_cast<char>('0' + below(10));
+    return s;
+  }
+  std::string letters() {
+    static const std::string kLetters = "abzAZ" + std::string("\xC0\xC5\xDF\xE0\xF0\xF3\xE1\xFF");
+    std::string s(1 + below(4), 'a');
+    for (char& c : s) c = any(kLetters);
+    return s;
+  }
+  std::string separator() { return std::string(1, any(".,|")); }
+  // A day or month: mostly one or two digits near the valid range.
+  std::string dayOrMonth() { return chance(80) ? std::to_string(below(40)) : digits(1, 3); }
+  std::string year() {
+    return (chance(80) ? std::string(chance(50) ? "19" : "20") : digits(2, 2)) + digits(2, 2);
+  }
+  std::string marked() { return chance(40) ? "(I)" : ""; }
+
+  // A token of one of the rules' shapes.
+  std::string shape() {
+    switch (below(10)) {
+      case 0:
+        return "-" + digits(0, 12) + (chance(50) ? separator() : "") + digits(0, 3) + letters();
+      case 1:
+        return digits(0, 12) + (chance(50) ? separator() : "") + digits(0, 3) + letters();
+      case 2:
+        return dayOrMonth() + "." + dayOrMonth() + "." + year() + marked();
+      case 3:
+        return (chance(10) ? std::string("0") : "") + dayOrMonth() + "." + dayOrMonth() + marked();
+      case 4: {
+        std::string s = digits(1, 6);
+        for (std::size_t i = below(4); i > 0; --i) s += "-" + digits(1, 4);
+        return s;
+      }
+      case 5: {
+        std::string keys(below(8), '0');
+        for (char& c : keys) c = any("0123456789#*");
+        return "\"" + keys + "\"";
+      }
+      case 6: {
+        std::string t = digits(1, 3) + ":" + digits(1, 3) + (chance(50) ? ":" + digits(1, 3) : "");
+        return chance(50) ? "\"" + t + "\"" : t;
+      }
+      case 7:
+        return digits(1, 20) + (chance(50) ? separator() + digits(1, 4) : "");
+      case 8:
+        return std::string(1, static_cast<char>(below(256)));
+      default:
+        return digits(1, 2) + "." + digits(1, 2);
+    }
+  }
+
+  // Near-misses: up to three bytes added, removed, swapped or replaced.
+  std::string mutate(std::string s) {
+    for (std::size_t n = below(4); n > 0; --n) {
+      const std::size_t at = below(s.size() + 1);
+      switch (below(4)) {
+        case 0:
+          s.insert(at, 1, any(kAlphabet));
+          break;
+        case 1:
+          if (at < s.size()) s.erase(at, 1);
+          break;
+        case 2:
+          if (at + 1 < s.size()) std::swap(s[at], s[at + 1]);
+          break;
+        default:
+          if (at < s.size()) s[at] = any(kAlphabet);
+          break;
+      }
+    }
+    return s;
+  }
+
+  std::string randomBytes() {
+    std::string s(below(24), '\0');
+    for (char& c : s) c = static_cast<char>(below(256));
+    return s;
+  }
+  std::string fromAlphabet(std::size_t length) {
+    std::string s(length, '\0');
+    for (char& c : s) c = any(kAlphabet);
+    return s;
+  }
+  // Up to 512 bytes: a digit run of 2 to 500 bytes (as many of each order of
+  // magnitude), sometimes with a token's tail.
+  std::string longDigits() {
+    static const char* const kTails[] = {"", "rub", ".5", ",5kb", "-1", ":00", "\"", "x"};
+    const std::size_t length = std::min<std::size_t>(500, std::size_t{2} << below(9));
+    std::string s = (chance(20) ? "-" : "") + digits(length / 2, length);
+    return s + kTails[below(std::size(kTails))];
+  }
+
+  std::mt19937_64 rng_;
+};
+
+// Stated examples, and the texts the runner's tests name.
+const std::string kExamples[] = {
+    "-12,5rub",
+    "-,5rub",
+    "5rub",
+    "5,rub",
+    "5|5rub",
+    ",25kb",
+    "12.50руб"_cp,
+    "3min",
+    "-5,5kb",
+    "21руб"_cp,
+    "12345678901rub",
+    "31.12.1999",
+    "31.12.1999(I)",
+    "31.12.2100",
+    "1.05.2015",
+    "1.05(I)",
+    "12.05(I)",
+    "1.5",
+    "12.05",
+    "1.50",
+    "32.1",
+    "0.5",
+    "1,5",
+    "15",
+    "0-05-120",
+    "-5",
+    "\"12#*\"",
+    "\"125:30\"",
+    "\"1:02:03\"",
+    "12:30",
+    "7:05",
+    "7:05:09",
+    "123:45",
+    "x",
+    "\xB8",
+    "ab",
+    "5 rub",
+    "5xyz",
+    "5ёж"_cp,
+    "7.00",
+    "file.wav",
+    "12 ab.wav",
+    "",
+    " ",
+};
+
+// Every grammar class, so the final answers are compared in each language.
+std::vector<IGrammar*> allGrammars() {
+  std::string error;
+  std::vector<IGrammar*> grammars;
+  for (const char* tag : {"en", "ru", "ro", "uk", "uz", "tg", "kk", "ka", "hy", "ar"}) {
+    grammars.push_back(&grammarFor(tag, 0, error));
+  }
+  grammars.push_back(&grammarFor("ru", 1, error));
+  return grammars;
+}
+
+// Grammars complain about bad input on standard output; the corpus has plenty.
+class QuietStdout {
+ public:
+  QuietStdout() {
+    std::fflush(stdout);
+    saved_ = dup(STDOUT_FILENO);
+    std::FILE* null = std::fopen("/dev/null", "w");
+    if (null != nullptr) {
+      dup2(fileno(null), STDOUT_FILENO);
+      std::fclose(null);
+    }
+  }
+  ~QuietStdout() {
+    std::fflush(stdout);
+    if (saved_ >= 0) {
+      dup2(saved_, STDOUT_FILENO);
+      close(saved_);
+    }
+  }
+
+ private:
+  int saved_ = -1;
+};
+
+struct Tally {
+  std::size_t texts = 0, answers = 0, gaveUp = 0;
+  std::vector<std::string> failures;
+  void fail(const std::string& what) {
+    if (failures.size() < 20) failures.push_back(what);
+  }
+};
+
+// Rule by rule: whole-text verdict and groups. A rule the engine gave up on is
+// not compared (the classifier still answers).
+void compareRules(const std::string& text, Tally& tally) {
+  const std::uint32_t rules = rulesTakingWholeText(text);
+  for (int rule = 0; rule < testing::kRegexRuleCount; ++rule) {
+    const testing::RegexVerdict expected = testing::regexRule(rule, text);
+    if (expected.gaveUp) {
+      ++tally.gaveUp;
+      continue;
+    }
+    const bool taken = ((rules >> rule) & 1u) != 0;
+    if (taken != expected.wholeText) {
+      tally.fail("rule " + std::to_string(rule + 1) + (taken ? " taken" : " not taken") + ": " +
+                 escaped(text));
+      continue;
+    }
+    if (!taken) continue;
+    TokenMatch match;
+    if (classifyToken(text, rule, match) != rule) tally.fail("classifyToken skips a rule: " + escaped(text));
+    for (int k = 0; k < TokenMatch::kGroups; ++k) {
+      if (match.group[k] != expected.groups[k]) {
+        tally.fail("rule " + std::to_string(rule + 1) + " group " + std::to_string(k) + " \"" +
+                   escaped(std::string(match.group[k])) + "\" instead of \"" + escaped(expected.groups[k]) +
+                   "\": " + escaped(text));
+      }
+    }
+  }
+}
+
+void compareAnswer(IGrammar& grammar, const std::string& text, Tally& tally) {
+  bool gaveUp = false;
+  const std::string expected = testing::runRulesByRegex(grammar, text, &gaveUp);
+  TextDecoder decoder(grammar, text);
+  runRules(decoder);
+  ++tally.answers;
+  if (!gaveUp && decoder.output != expected) {
+    tally.fail("answer \"" + escaped(decoder.output) + "\" instead of \"" + escaped(expected) +
+               "\": " + escaped(text));
+  }
+}
+
+void check(const std::string& text, IGrammar& grammar, Tally& tally) {
+  ++tally.texts;
+  compareRules(text, tally);
+  compareAnswer(grammar, text, tally);
+  testing::RecordingGrammar recording;
+  compareAnswer(recording, text, tally);
+}
+
+std::size_t fromEnvironment(const char* name, std::size_t fallback) {
+  const char* value = std::getenv(name);
+  return value != nullptr ? std::strtoull(value, nullptr, 10) : fallback;
+}
+
+void report(const Tally& tally) {
+  for (const std::string& failure : tally.failures) ADD_FAILURE() << failure;
+}
+
+TEST(ClassifierDifferentialTest, StatedExamplesInEveryGrammar) {
+  Tally tally;
+  {
+    QuietStdout quiet;
+    for (IGrammar* grammar : allGrammars()) {
+      for (const std::string& text : kExamples) check(text, *grammar, tally);
+    }
+  }
+  EXPECT_EQ(tally.gaveUp, 0u);
+  report(tally);
+}
+
+// Every single byte, and every pair of bytes from the token alphabet.
+TEST(ClassifierDifferentialTest, ShortTexts) {
+  Tally tally;
+  const std::vector<IGrammar*> grammars = allGrammars();
+  {
+    QuietStdout quiet;
+    for (int c = 0; c < 256; ++c)
+      check(std::string(1, static_cast<char>(c)), *grammars[c % grammars.size()], tally);
+    for (char a : kAlphabet) {
+      for (char b : kAlphabet) check(std::string{a, b}, *grammars[tally.texts % grammars.size()], tally);
+    }
+  }
+  report(tally);
+}
+
+TEST(ClassifierDifferentialTest, GeneratedCorpus) {
+  const std::size_t count = fromEnvironment("VELA_DIFFERENTIAL_TEXTS", 100000);
+  const std::uint64_t seed = fromEnvironment("VELA_DIFFERENTIAL_SEED", 12);
+  Tally tally;
+  Corpus corpus(seed);
+  const std::vector<IGrammar*> grammars = allGrammars();
+  const auto start = std::chrono::steady_clock::now();
+  {
+    QuietStdout quiet;
+    for (std::size_t i = 0; i < count; ++i) check(corpus.next(), *grammars[i % grammars.size()], tally);
+  }
+  const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+  std::fprintf(stderr, "differential: %zu texts, %zu answers compared, %zu rule searches given up, %.1f s\n",
+               tally.texts, tally.answers, tally.gaveUp, took.count());
+  report(tally);
+}
+
+// A grammar whose readings are tokens again: a number reads as "7", which the
+// number rule takes again, up to its bound of passes; then a character reads
+// as "x", which the character rule takes again likewise.
+class EchoGrammar final : public GrammarBase<EchoGrammar> {
+ public:
+  void speakNumber(const DigitList&, std::string& out) override {
+    ++numbers;
+    out += "7";
+  }
+  void speakCharacter(const std::string&, std::string& out) override {
+    ++characters;
+    out += "x";
+  }
+  int numbers = 0, characters = 0;
+};
+
+TEST(ClassifierDifferentialTest, ReadingsAreTriedByTheSameAndLaterRules) {
+  for (const char* text : {"15", "0-5", "1,5", "a"}) {
+    EchoGrammar byRegex, byClassifier;
+    const std::string expected = testing::runRulesByRegex(byRegex, text);
+    TextDecoder decoder(byClassifier, text);
+    runRules(decoder);
+    EXPECT_EQ(decoder.output, expected) << text;
+    EXPECT_EQ(byClassifier.numbers, byRegex.numbers) << text;
+    EXPECT_EQ(byClassifier.characters, byRegex.characters) << text;
+    EXPECT_EQ(byClassifier.characters, 16) << text;
+  }
+}
+
+// Texts of 10,000 digits and more, on which the engine may give up: wherever
+// it answers, it agrees with the classifier; where it gives up, the classifier
+// still answers, with the rule the text's shape names.
+TEST(ClassifierDifferentialTest, LongTextsTheEngineGivesUpOn) {
+  const std::string digits(10000, '7');
+  const std::pair<std::string, std::uint32_t> cases[] = {
+      {digits, 1u << kNumber},
+      {digits + "rub", 1u << kAmount},
+      {"-" + digits + ",5rub", 1u << kNegativeAmount | 1u << kNegativeFraction},
+      {digits + "-", 0u},
+  };
+  std::string gaveUp;
+  for (const auto& [text, rules] : cases) {
+    EXPECT_EQ(rulesTakingWholeText(text), rules) << text.size();
+    for (int rule = 0; rule < testing::kRegexRuleCount; ++rule) {
+      const testing::RegexVerdict verdict = testing::regexRule(rule, text);
+      if (verdict.gaveUp) {
+        gaveUp += " rule " + std::to_string(rule + 1) + " on " + escaped(text.substr(text.size() - 4)) + ";";
+        continue;
+      }
+      EXPECT_EQ(verdict.wholeText, ((rules >> rule) & 1u) != 0) << "rule " << rule + 1 << ", " << text.size();
+    }
+  }
+  std::fprintf(stderr, "long texts: the engine gave up on%s\n", gaveUp.c_str());
+}
+
+}  // namespace
+}  // namespace vela

@@ -1,0 +1,152 @@
+// A request allocates nothing but its answer buffer: counted, not timed.
+//
+// The count covers operator new everywhere, and malloc where no sanitizer owns
+// it (a sanitizer build intercepts malloc itself, so there only new is counted).
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+#include <span>
+#include <string>
+
+#include "grammar/cp1251.h"
+#include "vela/vela.h"
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define VELA_COUNT_MALLOC 0
+#else
+#define VELA_COUNT_MALLOC 1
+#endif
+
+namespace {
+
+thread_local bool counting = false;
+thread_local long newCalls = 0;
+thread_local long mallocCalls = 0;
+
+}  // namespace
+
+#if VELA_COUNT_MALLOC
+extern "C" void* __libc_malloc(std::size_t size);
+extern "C" void* malloc(std::size_t size) {
+  if (counting) ++mallocCalls;
+  return __libc_malloc(size);
+}
+#endif
+
+void* operator new(std::size_t size) {
+  if (counting) ++newCalls;
+  if (void* p = std::malloc(size == 0 ? 1 : size)) return p;
+  throw std::bad_alloc();
+}
+void* operator new[](std::size_t size) { return operator new(size); }
+void operator delete(void* p) noexcept { std::free(p); }
+void operator delete[](void* p) noexcept { std::free(p); }
+void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+void operator delete[](void* p, std::size_t) noexcept { std::free(p); }
+
+namespace {
+
+using vela::operator""_cp;
+
+struct Count {
+  long news = 0;
+  long mallocs = 0;
+};
+
+// Counts the allocations of one decodeBuffer call; the answer buffer is its one malloc.
+Count countRequest(const char* tag, const std::string& text, std::string& answer) {
+  char* out = nullptr;
+  const long news = newCalls, mallocs = mallocCalls;
+  counting = true;
+  const int status = decodeBuffer(tag, text.c_str(), &out);
+  counting = false;
+  EXPECT_EQ(status, 0);
+  answer = out != nullptr ? out : "";
+  decodeReleaseBuffer(out);
+  return {newCalls - news, mallocCalls - mallocs};
+}
+
+struct Request {
+  const char* tag;
+  std::string text;
+  // Allocations inside the grammar itself. English turns the hours, minutes,
+  // seconds and year of a time or date, and the cents of an amount, into the
+  // digit list (a vector) its amount operations take, and keeps a word longer
+  // than 15 bytes ("nineteen hundred") in a string of its own.
+  long grammarAllocations = 0;
+};
+
+// Every kind of token, texts up to 64 bytes, readings up to 1 KB; unknown
+// units, rejected dates and unknown tags too. Not here: Russian bare numbers
+// of more than 15 digits, whose digits the grammar copies into a string.
+const Request kRequests[] = {
+    {"ru", "12.50руб"_cp},
+    {"ru", "-5,5kb"},
+    {"ru", "-999999999999,99руб"_cp},
+    {"ru", "1.05.2015"},
+    {"ru", "1.05.2015(I)"},
+    {"ru", "1.05(I)"},
+    {"ru", "999999999999"},
+    {"ru", "0-05-120"},
+    {"ru", "\"0123456789#*0123456789#*0123456789#*0123456789#*0123\""},
+    {"ru", "7:05"},
+    {"ru", "7:05:30"},
+    {"ru", "\"125:30\""},
+    {"ru", "\"1:02:03\""},
+    {"ru", "1,5"},
+    {"ru", "x"},
+    {"ru", "ab"},
+    {"ru", "x.wav"},
+    {"ru", "5xyz"},
+    {"ru", "32.13.2015"},
+    {"ru", "25:61"},
+    {"RUSSIAN", "21.03.1999"},
+    {"uk", "12.50грн"_cp},
+    {"uk", "21.03.1999"},
+    {"ro", "15"},
+    {"ar", "15"},
+    {"kk", "15"},
+    {"en", "1234h"},
+    {"en", "999999999min"},
+    {"en", "12.50usd", 1},
+    {"en", "-3min"},
+    {"en", "31.12.1999", 2},
+    {"en", "1.05(I)"},
+    {"en", "12:30", 2},
+    {"en", "7:05:30", 3},
+    {"en", "\"125:30\"", 2},
+    {"en", "\"12#*\""},
+    {"en", "0-05-120"},
+    {"en", "x"},
+};
+
+// Unknown tags get English.
+const Request kUnknownTags[] = {{"xx", "ab"}, {"", "x.wav"}, {"english", "\"12#*\""}};
+
+TEST(AllocationTest, OnlyTheAnswerIsAllocated) {
+  std::string answer;
+  countRequest("ru", "1", answer);  // the thread's first request sets up its buffers
+  std::printf("%s", "");            // and standard output its own, as a grammar's complaint would
+  for (const auto& table : {std::span<const Request>(kRequests), std::span<const Request>(kUnknownTags)}) {
+    for (const Request& r : table) {
+      ASSERT_LE(r.text.size(), 64u);
+      const Count count = countRequest(r.tag, r.text, answer);
+      EXPECT_LE(answer.size(), 1024u) << r.tag << " " << r.text;
+      EXPECT_EQ(count.news, r.grammarAllocations) << r.tag << " " << r.text;
+      EXPECT_EQ(count.mallocs, VELA_COUNT_MALLOC * (1 + r.grammarAllocations)) << r.tag << " " << r.text;
+    }
+  }
+}
+
+// The counter sees what it should: a request too long for the thread's buffers
+// is allowed to allocate, and is counted when it does.
+TEST(AllocationTest, CounterSeesAllocations) {
+  std::string answer;
+  const Count count = countRequest("en", std::string(5000, '7'), answer);
+  EXPECT_GT(count.news + count.mallocs, VELA_COUNT_MALLOC);
+}
+
+}  // namespace
