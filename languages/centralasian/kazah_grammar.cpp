@@ -80,6 +80,7 @@ const centralasian::KazakhStyleLanguage kLanguage = {
     .numbers = &kNumbers,
     .tables = &kTables,
     .yearWord = " zhyldyng",
+    .yearWordNeedsYear = false,
     .hoursLead = "",
     .hoursWord = " sagat",
 };

@@ -75,7 +75,7 @@ int speakKazakhDate(const KazakhStyleLanguage& language, const std::string& day,
                     const std::string& year, std::string& out) {
   std::string text;
   speakKazakhInteger(*language.numbers, year, text, true);
-  text += language.yearWord;
+  if (!year.empty() || !language.yearWordNeedsYear) text += language.yearWord;
   DigitGroup group;
   if (!dayAccepted(day, group)) return 0;
   text += " ";

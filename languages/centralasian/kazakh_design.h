@@ -34,9 +34,10 @@ struct KazakhStyleNumbers {
 struct KazakhStyleLanguage {
   const KazakhStyleNumbers* numbers;
   const FamilyTables* tables;
-  const char* yearWord;   // after the ordinal year
-  const char* hoursLead;  // before the hours of a clock time
-  const char* hoursWord;  // after them
+  const char* yearWord;    // after the ordinal year
+  bool yearWordNeedsYear;  // a date written without a year says no year word either
+  const char* hoursLead;   // before the hours of a clock time
+  const char* hoursWord;   // after them
 };
 
 // One three-digit group; the ordinal form on its last word.

@@ -85,6 +85,7 @@ const centralasian::KazakhStyleLanguage kLanguage = {
     .numbers = &kNumbers,
     .tables = &kTables,
     .yearWord = " yil",
+    .yearWordNeedsYear = true,
     .hoursLead = " soat",
     .hoursWord = "",
 };

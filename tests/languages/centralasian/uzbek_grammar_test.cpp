@@ -27,7 +27,7 @@ const Reading kUzbek[] = {
     {"20.05.2000", "ikki minginchi yil yigirmanchi may"},
     {"1.09.1990", "bir ming toqqiz yuz toqsoninchi yil birinchi sentabr"},
     {"30.12.1999", "bir ming toqqiz yuz toqson toqqizinchi yil ottizinchi dekabr"},
-    {"12.10", "yil on ikkinchi oktabr"},
+    {"12.10", "on ikkinchi oktabr"},
     {"5.00.2008", "ikki ming sakkizinchi yil beshinchi"},
     // Clock times and spans.
     {"7:05", "soat yetti besh daqiqa"},
