@@ -27,6 +27,11 @@ struct DigitGroup {
 // as the digit 0 in hundreds/tens/units, so no table is ever indexed by it.
 void getDigitGroup(const std::string& number, DigitGroup* group, int cut);
 
+// The groups of `number` at the cuts 9, 6, 3 and 0 (milliards, millions,
+// thousands, units), each as getDigitGroup gives it, from one reading of a
+// number of digits only.
+std::array<DigitGroup, 4> getDigitGroups(const std::string& number);
+
 namespace detail {
 
 // Capital -> small pairs of Windows-1251 beyond A-Z and А-Я.

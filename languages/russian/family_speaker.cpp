@@ -1,7 +1,9 @@
 // Numbers, plural forms, units and money of the Russian family.
 #include "languages/russian/family_speaker.h"
 
+#include <array>
 #include <cstdio>
+#include <iterator>
 #include <string_view>
 
 namespace vela {
@@ -116,9 +118,11 @@ int FamilySpeaker::findUnit(const std::string& suffix) const {
   return -1;
 }
 
-int FamilySpeaker::getGender(const std::string& suffix) const {
-  const UnitRow* row = unitRow(findUnit(suffix));
-  return row != nullptr ? row->gender : -1;
+int FamilySpeaker::getGender(const std::string& suffix) const { return genderOf(findUnit(suffix)); }
+
+int FamilySpeaker::genderOf(int row) const {
+  const UnitRow* unit = unitRow(row);
+  return unit != nullptr ? unit->gender : -1;
 }
 
 int FamilySpeaker::findSymbol(const std::string& token) const {
@@ -144,21 +148,20 @@ bool FamilySpeaker::isUnit(const std::string& unit) const {
 
 bool FamilySpeaker::isCurrency(const std::string& unit) const { return findMinorCurrency(unit) != nullptr; }
 
-// Milliards, millions and thousands; returns whether all of them are zero.
-bool FamilySpeaker::speakHigherGroups(const std::string& digits, std::string& out) const {
+// Milliards, millions and thousands (the first three of `groups`); returns
+// whether all of them are zero.
+bool FamilySpeaker::speakHigherGroups(const std::array<DigitGroup, 4>& groups, std::string& out) const {
   struct Order {
-    int cut;
     int gender;
     int row;
   };
   // "одна тысяча", "две тысячи": thousands are feminine.
-  const Order orders[] = {{9, kMasculine, lang_.milliardsRow},
-                          {6, kMasculine, lang_.millionsRow},
-                          {3, kFeminine, lang_.thousandsRow}};
+  const Order orders[] = {
+      {kMasculine, lang_.milliardsRow}, {kMasculine, lang_.millionsRow}, {kFeminine, lang_.thousandsRow}};
   bool belowThousand = true;
-  for (const Order& order : orders) {
-    DigitGroup group;
-    getDigitGroup(digits, &group, order.cut);
+  for (std::size_t i = 0; i < std::size(orders); ++i) {
+    const Order& order = orders[i];
+    const DigitGroup& group = groups[i];
     speak3(group, order.gender, 0, 0, out);
     appendUnitForm(group, out, order.row, 0);
     if (group.value != 0) belowThousand = false;
@@ -167,10 +170,9 @@ bool FamilySpeaker::speakHigherGroups(const std::string& digits, std::string& ou
 }
 
 void FamilySpeaker::speakCardinal(const std::string& digits, int gender, std::string& out) const {
-  speakHigherGroups(digits, out);
-  DigitGroup group;
-  getDigitGroup(digits, &group, 0);
-  speak3(group, gender, 0, 0, out);
+  const std::array<DigitGroup, 4> groups = getDigitGroups(digits);
+  speakHigherGroups(groups, out);
+  speak3(groups[3], gender, 0, 0, out);
 }
 
 // "0руб" is "ноль рублей", but "5000руб" is "пять тысяч рублей" without "ноль".
@@ -178,11 +180,11 @@ void FamilySpeaker::speakCount(const std::string& digits, const std::string& suf
   if (suffix.empty()) return speakCardinal(digits, kMasculine, out);
   if (lang_.femaleSuffix != nullptr && suffix == lang_.femaleSuffix)
     return speakCardinal(digits, kFeminine, out);
-  const bool belowThousand = speakHigherGroups(digits, out);
-  DigitGroup group;
-  getDigitGroup(digits, &group, 0);
+  const std::array<DigitGroup, 4> groups = getDigitGroups(digits);
+  const bool belowThousand = speakHigherGroups(groups, out);
+  const DigitGroup& group = groups[3];
   const int row = findUnit(suffix);
-  const int gender = getGender(suffix);
+  const int gender = genderOf(row);
   if (gender == -1) {
     std::printf(" wrong suffix (getGender) %s \r\n", suffix.c_str());
     return;
@@ -262,7 +264,7 @@ void FamilySpeaker::speakMinorUnits(const std::string& fracDigits, const std::st
   const char* word = findMinorCurrency(unit);
   if (word == nullptr) return;
   const int row = findUnit(word);
-  const int gender = getGender(word);
+  const int gender = genderOf(row);
   if (row == -1 || gender == -1) {
     std::printf("wrong minor %s\r\n", word);
     return;
@@ -308,7 +310,7 @@ void FamilySpeaker::speakDecimal(const std::string& intDigits, const std::string
                                  const std::string& unit, std::string& out) const {
   if (!speakDecimalNumber(intDigits, fracDigits, out)) return;
   const int row = findUnit(unit);
-  if (getGender(unit) == -1) {
+  if (genderOf(row) == -1) {
     std::printf(" wrong suffix (getGender) %s \r\n", unit.c_str());
     return;
   }
