@@ -69,6 +69,34 @@ inline bool matchesWord(const std::string& token, const char* word) {
   return *word == '\0';
 }
 
+// The last answer of one look-up, kept per thread. An amount asks about its
+// unit word several times (is it a unit, a currency, which row, which minor
+// unit), and each question scans a unit table; with this the scan runs once.
+// The answer must depend only on `table` and the word. Words longer than
+// kMaxWord bytes are looked up every time.
+template <class Result>
+class LastLookup {
+ public:
+  static constexpr std::size_t kMaxWord = 23;
+
+  template <class Lookup>
+  Result get(const void* table, std::string_view word, Lookup lookup) {
+    if (word.size() > kMaxWord) return lookup();
+    if (table == table_ && word == std::string_view(bytes_.data(), size_)) return result_;
+    result_ = lookup();
+    table_ = table;
+    size_ = word.size();
+    word.copy(bytes_.data(), size_);
+    return result_;
+  }
+
+ private:
+  const void* table_ = nullptr;
+  std::size_t size_ = 0;
+  std::array<char, kMaxWord> bytes_{};
+  Result result_{};
+};
+
 // Lower-case of one Windows-1251 byte under that mapping.
 unsigned char lowerCp1251(unsigned char c);
 

@@ -33,9 +33,12 @@ constexpr NoneAmount kNoneAmounts[] = {
 
 // The first record whose code matches the suffix (case-insensitively), or null.
 const UnitRecord* findUnit(const std::string& unit) {
-  for (const UnitRecord& record : english::kUnits)
-    if (matchesWord(unit, record.code)) return &record;
-  return nullptr;
+  thread_local LastLookup<const UnitRecord*> last;
+  return last.get(english::kUnits, unit, [&]() -> const UnitRecord* {
+    for (const UnitRecord& record : english::kUnits)
+      if (matchesWord(unit, record.code)) return &record;
+    return nullptr;
+  });
 }
 
 // The first currency whose major unit is `record`, or null (also for a null record).

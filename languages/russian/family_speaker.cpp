@@ -110,12 +110,15 @@ void FamilySpeaker::appendUnitForm(const DigitGroup& group, std::string& out, in
 }
 
 int FamilySpeaker::findUnit(const std::string& suffix) const {
-  for (std::size_t i = 0; i < lang_.units.size(); ++i) {
-    if (matchesWord(suffix, lang_.units[i].key) || matchesWord(suffix, lang_.units[i].form1)) {
-      return static_cast<int>(i);
+  thread_local LastLookup<int> last;
+  return last.get(lang_.units.data(), suffix, [&] {
+    for (std::size_t i = 0; i < lang_.units.size(); ++i) {
+      if (matchesWord(suffix, lang_.units[i].key) || matchesWord(suffix, lang_.units[i].form1)) {
+        return static_cast<int>(i);
+      }
     }
-  }
-  return -1;
+    return -1;
+  });
 }
 
 int FamilySpeaker::getGender(const std::string& suffix) const { return genderOf(findUnit(suffix)); }
@@ -133,17 +136,23 @@ int FamilySpeaker::findSymbol(const std::string& token) const {
 }
 
 const char* FamilySpeaker::findMinorCurrency(const std::string& suffix) const {
-  for (const CurrencyRow& row : lang_.currencies) {
-    if (matchesWord(suffix, row.key)) return row.minorUnit;
-  }
-  return nullptr;
+  thread_local LastLookup<const char*> last;
+  return last.get(lang_.currencies.data(), suffix, [&]() -> const char* {
+    for (const CurrencyRow& row : lang_.currencies) {
+      if (matchesWord(suffix, row.key)) return row.minorUnit;
+    }
+    return nullptr;
+  });
 }
 
 bool FamilySpeaker::isUnit(const std::string& unit) const {
-  for (const UnitRow& row : lang_.units) {
-    if (matchesWord(unit, row.key)) return true;
-  }
-  return false;
+  thread_local LastLookup<bool> last;
+  return last.get(lang_.units.data(), unit, [&] {
+    for (const UnitRow& row : lang_.units) {
+      if (matchesWord(unit, row.key)) return true;
+    }
+    return false;
+  });
 }
 
 bool FamilySpeaker::isCurrency(const std::string& unit) const { return findMinorCurrency(unit) != nullptr; }
