@@ -82,8 +82,9 @@ class LastLookup {
   template <class Lookup>
   Result get(const void* table, std::string_view word, Lookup lookup) {
     if (word.size() > kMaxWord) return lookup();
-    if (table == table_ && word == std::string_view(bytes_.data(), size_)) return result_;
+    if (filled_ && table == table_ && word == std::string_view(bytes_.data(), size_)) return result_;
     result_ = lookup();
+    filled_ = true;
     table_ = table;
     size_ = word.size();
     word.copy(bytes_.data(), size_);
@@ -91,6 +92,7 @@ class LastLookup {
   }
 
  private:
+  bool filled_ = false;
   const void* table_ = nullptr;
   std::size_t size_ = 0;
   std::array<char, kMaxWord> bytes_{};
