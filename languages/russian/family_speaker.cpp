@@ -16,42 +16,45 @@ int rowOf(int value, int scale) {
 }
 
 // A form the table lacks is spoken as the cardinal.
-const char* orCardinal(const char* form, const char* cardinal) { return form != kNoForm ? form : cardinal; }
+std::string_view orCardinal(std::string_view form, std::string_view cardinal) {
+  return form.data() != nullptr ? form : cardinal;
+}
 
-void appendWord(const char* word, std::string& out) {
-  if (word == nullptr) return;
+// A word without data appends nothing, not even its space.
+void appendWord(std::string_view word, std::string& out) {
+  if (word.data() == nullptr) return;
   out += ' ';
   out += word;
 }
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-const char* teenWord(const NumberWords& words, int teen, bool genitive, bool ordinal) {
-  if (teen < 11 || teen > 19) return nullptr;
-  const TeenRow& row = words.teens[teen - 10];
+std::string_view teenWord(const NumberViews& words, int teen, bool genitive, bool ordinal) {
+  if (teen < 11 || teen > 19) return {};
+  const NumberViews::Teen& row = words.teens[teen - 10];
   if (!ordinal) return row.cardinal;
   return genitive ? row.ordinalGenitive : orCardinal(row.ordinalNominative, row.cardinal);
 }
 
-const char* unitsWord(const NumberWords& words, int units, int gender, bool genitive, bool ordinal) {
-  if (units < 1 || units > 9 || gender < kMasculine || gender > kNeuter) return nullptr;
+std::string_view unitsWord(const NumberViews& words, int units, int gender, bool genitive, bool ordinal) {
+  if (units < 1 || units > 9 || gender < kMasculine || gender > kNeuter) return {};
   const auto& table = genitive ? words.ordinalGenitive : ordinal ? words.ordinalNominative : words.cardinal;
   return table[units][gender];
 }
 
 // Only the last spoken word of an ordinal takes the ordinal form: "двадцать первое", "двадцатое".
-const char* tensWord(const NumberWords& words, const DigitGroup& group, bool genitive, bool ordinal) {
+std::string_view tensWord(const NumberViews& words, const DigitGroup& group, bool genitive, bool ordinal) {
   const int row = rowOf(group.tens, 10);
-  if (row < 0) return nullptr;
-  const TensRow& tens = words.tens[row];
+  if (row < 0) return {};
+  const NumberViews::Tens& tens = words.tens[row];
   if (!ordinal || group.units != 0) return tens.cardinal;
   return genitive ? tens.ordinalGenitive : orCardinal(tens.ordinalNominative, tens.cardinal);
 }
 
 // A round hundred asked for as a nominative ordinal stays the cardinal ("сто").
-const char* hundredsWord(const NumberWords& words, const DigitGroup& group, bool genitive) {
+std::string_view hundredsWord(const NumberViews& words, const DigitGroup& group, bool genitive) {
   const int row = rowOf(group.hundreds, 100);
-  if (row < 0) return nullptr;
+  if (row < 0) return {};
   const bool last = group.tens == 0 && group.teen == 0 && group.units == 0;
   return genitive && last ? words.hundreds[row].ordinalGenitive : words.hundreds[row].cardinal;
 }
@@ -75,9 +78,10 @@ int FamilySpeaker::speak3(const DigitGroup& group, int gender, int genitive, int
     std::printf("%s", lang_.speak3Complaint);
     return 0;
   }
-  const NumberWords& words = *lang_.numbers;
-  const char* units = group.teen != 0 ? teenWord(words, group.teen, genitive != 0, ordinal != 0)
-                                      : unitsWord(words, group.units, gender, genitive != 0, ordinal != 0);
+  const NumberViews& words = *lang_.numberViews;
+  const std::string_view units = group.teen != 0
+                                     ? teenWord(words, group.teen, genitive != 0, ordinal != 0)
+                                     : unitsWord(words, group.units, gender, genitive != 0, ordinal != 0);
   appendWord(hundredsWord(words, group, genitive != 0), out);
   appendWord(tensWord(words, group, genitive != 0, ordinal != 0), out);
   appendWord(units, out);
@@ -95,9 +99,9 @@ void FamilySpeaker::appendUnitForm(const DigitGroup& group, std::string& out, in
   const UnitRow* row = unitRow(unitRowIndex);
   if (row == nullptr) return;
   if (group.value == 0 && mode == 0) return;
-  if (group.teen != 0) return appendWord(row->form5, out);
-  if (group.units == 1) return appendWord(row->form1, out);
-  if (group.units >= 2 && group.units <= 4) return appendWord(row->form2, out);
+  if (group.teen != 0) return appendWord(viewOf(row->form5), out);
+  if (group.units == 1) return appendWord(viewOf(row->form1), out);
+  if (group.units >= 2 && group.units <= 4) return appendWord(viewOf(row->form2), out);
   if (group.tens == 0 && group.hundreds == 0 && group.units == 0) {
     if (mode == 0) return;
     if (mode == 2) {
@@ -106,7 +110,7 @@ void FamilySpeaker::appendUnitForm(const DigitGroup& group, std::string& out, in
       return;
     }
   }
-  appendWord(row->form5, out);
+  appendWord(viewOf(row->form5), out);
 }
 
 int FamilySpeaker::findUnit(const std::string& suffix) const {

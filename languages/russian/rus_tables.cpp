@@ -221,10 +221,13 @@ constexpr const char* kMonths[] = {
 
 constexpr DecimalKeys kDecimalKeys = {.whole = "tsl", .tenths = "des", .hundredths = "sot"};
 
+constexpr NumberViews kNumberViews = viewsOf(kNumbers);
+
 }  // namespace
 
 constinit const FamilyLanguage kRussianLanguage = {
     .numbers = &kNumbers,
+    .numberViews = &kNumberViews,
     .units = kUnits,
     .currencies = kCurrencies,
     .symbols = kSymbols,

@@ -141,10 +141,13 @@ constexpr const char* kMonths[] = {
 };
 // clang-format on
 
+constexpr NumberViews kNumberViews = viewsOf(kNumbers);
+
 }  // namespace
 
 constinit const FamilyLanguage kUkrainianLanguage = {
     .numbers = &kNumbers,
+    .numberViews = &kNumberViews,
     .units = kUnits,
     .currencies = kCurrencies,
     .symbols = kSymbols,
