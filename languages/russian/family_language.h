@@ -72,7 +72,7 @@ struct NumberWords {
   std::array<HundredsRow, 10> hundreds;
 };
 
-// The same number words as views, their lengths counted at compile time: the
+// The same number words as views, their lengths counted once: the
 // cardinal readings append many of them. A form the table lacks (kNoForm) is a
 // view without data.
 struct NumberViews {
