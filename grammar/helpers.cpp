@@ -1,6 +1,5 @@
 #include "grammar/helpers.h"
 
-#include <algorithm>
 #include <array>
 #include <climits>
 #include <cstring>
@@ -67,23 +66,25 @@ void getDigitGroup(const std::string& number, DigitGroup* group, int cut) {
   fillGroup(t, readInt(t), group);
 }
 
-// Reads the digits once, keeping the value of every prefix a cut leaves
-// (saturated at INT_MAX as readInt does); any other text takes the general way.
+// Reads the digits once, keeping the value of every prefix a cut leaves; the
+// reading stops where the value saturates at INT_MAX, as readInt's does. A
+// byte that is not a digit before that point sends the text the general way.
 std::array<DigitGroup, 4> getDigitGroups(const std::string& number) {
   std::array<DigitGroup, 4> groups{};
   const std::size_t n = number.size();
-  const bool digitsOnly =
-      std::all_of(number.begin(), number.end(), [](char c) { return c >= '0' && c <= '9'; });
-  if (!digitsOnly) {
-    for (int i = 0; i < 4; ++i) getDigitGroup(number, &groups[i], kCuts[i]);
-    return groups;
-  }
   long long value = 0;
   std::size_t read = 0;
   for (int i = 0; i < 4; ++i) {
     const auto cut = static_cast<std::size_t>(kCuts[i]);
     if (n <= cut) continue;
-    for (; read < n - cut; ++read) value = std::min(value * 10 + (number[read] - '0'), INT_MAX + 1LL);
+    for (; read < n - cut && value <= INT_MAX; ++read) {
+      const char c = number[read];
+      if (c < '0' || c > '9') {
+        for (int k = 0; k < 4; ++k) getDigitGroup(number, &groups[k], kCuts[k]);
+        return groups;
+      }
+      value = value * 10 + (c - '0');
+    }
     const int saturated = value > INT_MAX ? INT_MAX : static_cast<int>(value);
     fillGroup(std::string_view(number).substr(0, n - cut), saturated, &groups[i]);
   }
