@@ -41,6 +41,14 @@ IGrammar* makeRussian(unsigned char transliterated, std::vector<std::string>* un
   return make<RusGrammarTrans>(transliterated, unitKeys);
 }
 
+// Tags are a few bytes long: comparing them in place beats a library call per row.
+bool sameTag(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i)
+    if (a[i] != b[i]) return false;
+  return true;
+}
+
 struct TagRow {
   std::string_view tag;
   Maker maker;
@@ -107,7 +115,7 @@ constexpr TagRow kTags[] = {
 
 IGrammar& grammarFor(std::string_view tag, unsigned char transliterated, std::string& error) {
   for (const TagRow& row : kTags) {
-    if (tag == row.tag) return *row.maker(transliterated, nullptr);
+    if (sameTag(tag, row.tag)) return *row.maker(transliterated, nullptr);
   }
   error = " language tag incorrect";
   return instance<EnglishGrammar>();

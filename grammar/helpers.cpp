@@ -32,13 +32,14 @@ int readInt(std::string_view text) {
   return static_cast<int>(negative ? -value : value);
 }
 
-void getDigitGroup(const std::string& number, DigitGroup* group, int cut) {
+namespace {
+
+// The hundreds, tens, teen and units of the digits `t`; `value` is theirs read as a number.
+void fillGroup(std::string_view t, int value, DigitGroup* group) {
   *group = DigitGroup{};
-  std::size_t drop = cut > 0 ? static_cast<std::size_t>(cut) : 0;
-  if (number.size() <= drop) return;
-  const std::string_view t = std::string_view(number).substr(0, number.size() - drop);
-  group->value = readInt(t);
+  group->value = value;
   const std::size_t n = t.size();
+  if (n == 0) return;
   if (n == 1) {
     group->units = digitAt(t, 0);
     return;
@@ -51,6 +52,43 @@ void getDigitGroup(const std::string& number, DigitGroup* group, int cut) {
     group->units = digitAt(t, n - 1);
   }
   if (n >= 3) group->hundreds = digitAt(t, n - 3) * 100;
+}
+
+constexpr int kCuts[4] = {9, 6, 3, 0};
+
+}  // namespace
+
+void getDigitGroup(const std::string& number, DigitGroup* group, int cut) {
+  *group = DigitGroup{};
+  std::size_t drop = cut > 0 ? static_cast<std::size_t>(cut) : 0;
+  if (number.size() <= drop) return;
+  const std::string_view t = std::string_view(number).substr(0, number.size() - drop);
+  fillGroup(t, readInt(t), group);
+}
+
+// Reads the digits once, keeping the value of every prefix a cut leaves; the
+// reading stops where the value saturates at INT_MAX, as readInt's does. A
+// byte that is not a digit before that point sends the text the general way.
+std::array<DigitGroup, 4> getDigitGroups(const std::string& number) {
+  std::array<DigitGroup, 4> groups{};
+  const std::size_t n = number.size();
+  long long value = 0;
+  std::size_t read = 0;
+  for (int i = 0; i < 4; ++i) {
+    const auto cut = static_cast<std::size_t>(kCuts[i]);
+    if (n <= cut) continue;
+    for (; read < n - cut && value <= INT_MAX; ++read) {
+      const char c = number[read];
+      if (c < '0' || c > '9') {
+        for (int k = 0; k < 4; ++k) getDigitGroup(number, &groups[k], kCuts[k]);
+        return groups;
+      }
+      value = value * 10 + (c - '0');
+    }
+    const int saturated = value > INT_MAX ? INT_MAX : static_cast<int>(value);
+    fillGroup(std::string_view(number).substr(0, n - cut), saturated, &groups[i]);
+  }
+  return groups;
 }
 
 }  // namespace vela

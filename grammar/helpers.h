@@ -27,6 +27,11 @@ struct DigitGroup {
 // as the digit 0 in hundreds/tens/units, so no table is ever indexed by it.
 void getDigitGroup(const std::string& number, DigitGroup* group, int cut);
 
+// The groups of `number` at the cuts 9, 6, 3 and 0 (milliards, millions,
+// thousands, units), each as getDigitGroup gives it, from one reading of a
+// number of digits only.
+std::array<DigitGroup, 4> getDigitGroups(const std::string& number);
+
 namespace detail {
 
 // Capital -> small pairs of Windows-1251 beyond A-Z and А-Я.
@@ -63,6 +68,36 @@ inline bool matchesWord(const std::string& token, const char* word) {
   }
   return *word == '\0';
 }
+
+// The last answer of one look-up, kept per thread. An amount asks about its
+// unit word several times (is it a unit, a currency, which row, which minor
+// unit), and each question scans a unit table; with this the scan runs once.
+// The answer must depend only on `table` and the word. Words longer than
+// kMaxWord bytes are looked up every time.
+template <class Result>
+class LastLookup {
+ public:
+  static constexpr std::size_t kMaxWord = 23;
+
+  template <class Lookup>
+  Result get(const void* table, std::string_view word, Lookup lookup) {
+    if (word.size() > kMaxWord) return lookup();
+    if (filled_ && table == table_ && word == std::string_view(bytes_.data(), size_)) return result_;
+    result_ = lookup();
+    filled_ = true;
+    table_ = table;
+    size_ = word.size();
+    word.copy(bytes_.data(), size_);
+    return result_;
+  }
+
+ private:
+  bool filled_ = false;
+  const void* table_ = nullptr;
+  std::size_t size_ = 0;
+  std::array<char, kMaxWord> bytes_{};
+  Result result_{};
+};
 
 // Lower-case of one Windows-1251 byte under that mapping.
 unsigned char lowerCp1251(unsigned char c);

@@ -1,5 +1,7 @@
 #include "languages/arabic/arab_grammar.h"
 
+#include <string_view>
+
 #include "grammar/helpers.h"
 #include "grammar/unit_keys.h"
 #include "languages/arabic/arab_number.h"
@@ -26,7 +28,7 @@ const arabic::CurrencyRow* findCurrency(const std::string& unit) {
 
 int minorDigitCount(const std::string& code) {
   for (const arabic::MinorDigitsRow& row : arabic::kMinorDigits)
-    if (code == row.code) return row.digits;
+    if (std::string_view(code) == row.code) return row.digits;
   return 0;
 }
 

@@ -1,6 +1,9 @@
 #include "languages/arabic/arab_number.h"
 
+#include <array>
 #include <cstring>
+#include <iterator>
+#include <string_view>
 
 namespace vela::arabic {
 namespace {
@@ -12,9 +15,11 @@ struct GroupContext {
   bool ordinal;
   bool feminine;
   bool oblique;
-  const std::string& token;
+  const ArabicUnitRecord* noun;  // the counted noun's record, or null: no noun
   ArabicCase grammaticalCase;
 };
+
+const char* nounForm(const ArabicUnitRecord* record, long long count, ArabicCase grammaticalCase);
 
 const char* ordinalWord(int k, bool feminine) {
   return feminine ? kOrdinals[k].feminine : kOrdinals[k].masculine;
@@ -23,7 +28,7 @@ const char* ordinalWord(int k, bool feminine) {
 const char* cardinalWord(int k, bool formB) { return formB ? kCardinals[k].b : kCardinals[k].a; }
 
 void appendNoun(const GroupContext& c, long long count, std::string& text) {
-  if (!c.token.empty()) text += arabicNounForm(c.token, count, c.grammaticalCase);
+  if (c.noun != nullptr) text += nounForm(c.noun, count, c.grammaticalCase);
 }
 
 // 3-10 in the form of the opposite gender; eight before a feminine noun in the
@@ -123,14 +128,27 @@ void speakGroup(const DigitGroup& g, const GroupContext& c, std::string& text) {
     speakOneOrTwo(n, c, text);
 }
 
+// The code and singular of every unit record as views: a look-up compares
+// lengths before bytes, and the lengths are counted at compile time.
+struct RecordNames {
+  std::string_view code;
+  std::string_view singular;
+};
+
+constexpr auto kRecordNames = [] {
+  std::array<RecordNames, std::size(kUnitRecords)> names{};
+  for (std::size_t i = 0; i < names.size(); ++i) names[i] = {kUnitRecords[i].code, kUnitRecords[i].singular};
+  return names;
+}();
+
 // The completed value of a group: its own three digits only.
 int groupValue(const DigitGroup& g) { return g.hundreds + g.tens + g.teen + g.units; }
 
 }  // namespace
 
-const ArabicUnitRecord* findUnitRecord(const std::string& token) {
-  for (const ArabicUnitRecord& record : kUnitRecords)
-    if (token == record.code || token == record.singular) return &record;
+const ArabicUnitRecord* findUnitRecord(std::string_view wanted) {
+  for (std::size_t i = 0; i < std::size(kUnitRecords); ++i)
+    if (wanted == kRecordNames[i].code || wanted == kRecordNames[i].singular) return &kUnitRecords[i];
   return nullptr;
 }
 
@@ -139,8 +157,10 @@ int unitGender(const std::string& token) {
   return record != nullptr ? record->gender : kNoGender;
 }
 
-const char* arabicNounForm(const std::string& token, long long count, ArabicCase grammaticalCase) {
-  const ArabicUnitRecord* record = findUnitRecord(token);
+namespace {
+
+// The noun of `record` after `count`; "" without a record.
+const char* nounForm(const ArabicUnitRecord* record, long long count, ArabicCase grammaticalCase) {
   if (record == nullptr) return "";
   if (count == 2) {
     const bool thousand = std::strcmp(record->code, kThousandCode) == 0;
@@ -150,16 +170,25 @@ const char* arabicNounForm(const std::string& token, long long count, ArabicCase
   return record->singular;
 }
 
-void speakArabicGroup(const DigitGroup& group, bool ordinal, int gender, ArabicCase grammaticalCase,
-                      const std::string& token, std::string& result) {
+void speakGroupCounting(const DigitGroup& group, bool ordinal, int gender, ArabicCase grammaticalCase,
+                        const ArabicUnitRecord* noun, std::string& result) {
   const GroupContext context{.ordinal = ordinal,
                              .feminine = gender == kFeminine,
                              .oblique = grammaticalCase == ArabicCase::kOblique,
-                             .token = token,
+                             .noun = noun,
                              .grammaticalCase = grammaticalCase};
-  std::string text;
-  speakGroup(group, context, text);
-  result += text;
+  speakGroup(group, context, result);
+}
+
+}  // namespace
+
+const char* arabicNounForm(const std::string& token, long long count, ArabicCase grammaticalCase) {
+  return nounForm(findUnitRecord(token), count, grammaticalCase);
+}
+
+void speakArabicGroup(const DigitGroup& group, bool ordinal, int gender, ArabicCase grammaticalCase,
+                      const std::string& token, std::string& result) {
+  speakGroupCounting(group, ordinal, gender, grammaticalCase, findUnitRecord(token), result);
 }
 
 long long arabicNumberValue(const std::string& number) {
@@ -181,24 +210,25 @@ void speakArabicNumber(const std::string& number, bool ordinal, int gender, Arab
   constexpr const char* kScaleCodes[3] = {kMilliardCode, kMillionCode, kThousandCode};
   DigitGroup groups[4];
   for (int i = 0; i < 4; ++i) getDigitGroup(digits, &groups[i], kCuts[i]);
+  const ArabicUnitRecord* noun = findUnitRecord(token);  // looked up once for the whole number
 
   for (int i = 0; i < 3; ++i) {
     const int value = groupValue(groups[i]);
     if (value == 0) continue;
-    const std::string scale = kScaleCodes[i];
+    const ArabicUnitRecord* scale = findUnitRecord(kScaleCodes[i]);
     if (value <= 2)
-      result += arabicNounForm(scale, value, grammaticalCase);
+      result += nounForm(scale, value, grammaticalCase);
     else
-      speakArabicGroup(groups[i], ordinal, kMasculine, grammaticalCase, scale, result);
+      speakGroupCounting(groups[i], ordinal, kMasculine, grammaticalCase, scale, result);
     bool lowerNonZero = false;
     for (int j = i + 1; j < 4; ++j) lowerNonZero = lowerNonZero || groupValue(groups[j]) != 0;
     if (!lowerNonZero) {
-      if (!token.empty()) result += arabicNounForm(token, arabicNumberValue(digits), grammaticalCase);
+      result += nounForm(noun, arabicNumberValue(digits), grammaticalCase);
       return;
     }
     result += kAnd;
   }
-  speakArabicGroup(groups[3], ordinal, gender, grammaticalCase, token, result);
+  speakGroupCounting(groups[3], ordinal, gender, grammaticalCase, noun, result);
 }
 
 }  // namespace vela::arabic

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "grammar/helpers.h"
 #include "languages/arabic/arab_words.h"
@@ -14,7 +15,7 @@ enum class ArabicCase { kNominative = 0, kOblique = 1 };
 
 // The record a noun token names: its code or its singular form (leading space
 // included), compared byte for byte; the first record in table order wins.
-const ArabicUnitRecord* findUnitRecord(const std::string& token);
+const ArabicUnitRecord* findUnitRecord(std::string_view token);
 
 // The gender of the record the token names, or kNoGender.
 int unitGender(const std::string& token);

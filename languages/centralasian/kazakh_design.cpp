@@ -17,22 +17,21 @@ void endOnScale(const KazakhStyleNumbers& numbers, const DigitGroup& units, cons
 // 11..19 are said as ten and a digit ("on bes").
 void speakKazakhGroup(const KazakhStyleNumbers& numbers, DigitGroup group, std::string& out, bool ordinal) {
   normaliseTeen(group);
-  std::string text = " ";
-  if (group.value == 0) text += numbers.zero;
+  out += ' ';
+  if (group.value == 0) out += numbers.zero;
   if (group.hundreds != 0) {
-    if (group.hundreds > 100) text += wordAt(numbers.ones, group.hundreds / 100);
-    text += numbers.hundred.word;
-    if (ordinal && group.tens == 0 && group.units == 0) text += numbers.hundred.ordinalSuffix;
+    if (group.hundreds > 100) out += wordAt(numbers.ones, group.hundreds / 100);
+    out += numbers.hundred.word;
+    if (ordinal && group.tens == 0 && group.units == 0) out += numbers.hundred.ordinalSuffix;
   }
   if (group.tens != 0) {
-    text += " ";
-    text += wordAt(ordinal && group.units == 0 ? numbers.ordinalTens : numbers.tens, group.tens / 10);
+    out += " ";
+    out += wordAt(ordinal && group.units == 0 ? numbers.ordinalTens : numbers.tens, group.tens / 10);
   }
   if (group.units != 0) {
-    text += " ";
-    text += wordAt(ordinal ? numbers.ordinalOnes : numbers.ones, group.units);
+    out += " ";
+    out += wordAt(ordinal ? numbers.ordinalOnes : numbers.ones, group.units);
   }
-  out += text;
 }
 
 // Only the last twelve digits are read: the milliards group counts its own
@@ -73,17 +72,22 @@ void speakKazakhInteger(const KazakhStyleNumbers& numbers, const std::string& di
 
 int speakKazakhDate(const KazakhStyleLanguage& language, const std::string& day, const std::string& month,
                     const std::string& year, std::string& out) {
-  std::string text;
-  speakKazakhInteger(*language.numbers, year, text, true);
-  if (!year.empty() || !language.yearWordNeedsYear) text += language.yearWord;
+  const std::size_t start = out.size();  // a rejected date leaves `out` as it was
+  speakKazakhInteger(*language.numbers, year, out, true);
+  if (!year.empty() || !language.yearWordNeedsYear) out += language.yearWord;
   DigitGroup group;
-  if (!dayAccepted(day, group)) return 0;
-  text += " ";
-  speakKazakhInteger(*language.numbers, day, text, true);
-  if (!monthAccepted(month, group)) return 0;
-  text += " ";
-  text += wordAt(language.tables->months, group.value);
-  out += text;
+  if (!dayAccepted(day, group)) {
+    out.resize(start);
+    return 0;
+  }
+  out += " ";
+  speakKazakhInteger(*language.numbers, day, out, true);
+  if (!monthAccepted(month, group)) {
+    out.resize(start);
+    return 0;
+  }
+  out += " ";
+  out += wordAt(language.tables->months, group.value);
   return 1;
 }
 

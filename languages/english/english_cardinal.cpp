@@ -71,7 +71,7 @@ void emitPhrases(const CardinalBuilder& builder, WordList& words) {
 }
 
 void joinWords(const WordList& words, std::string& out) {
-  for (const std::string& word : words) {
+  for (const std::string_view word : words) {
     if (!out.empty() && !word.empty()) out += ' ';
     out += word;
   }

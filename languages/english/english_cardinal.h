@@ -4,6 +4,7 @@
 
 #include <boost/container/small_vector.hpp>
 #include <string>
+#include <string_view>
 
 #include "grammar/igrammar.h"
 #include "languages/english/english_words.h"
@@ -12,7 +13,8 @@ namespace vela::english {
 
 // The words of one reading; held on the stack up to the size of any amount
 // (a request allocates nothing for them).
-using WordList = boost::container::small_vector<std::string, 24>;
+// Views of table words (or of a string the caller keeps alive while the list is used).
+using WordList = boost::container::small_vector<std::string_view, 24>;
 
 // One group of three digits as it is spoken: the hundreds, "and" when anything
 // was said before the tens and units ("one hundred and five", "one thousand

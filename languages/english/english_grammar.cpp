@@ -33,9 +33,12 @@ constexpr NoneAmount kNoneAmounts[] = {
 
 // The first record whose code matches the suffix (case-insensitively), or null.
 const UnitRecord* findUnit(const std::string& unit) {
-  for (const UnitRecord& record : english::kUnits)
-    if (matchesWord(unit, record.code)) return &record;
-  return nullptr;
+  thread_local LastLookup<const UnitRecord*> last;
+  return last.get(english::kUnits, unit, [&]() -> const UnitRecord* {
+    for (const UnitRecord& record : english::kUnits)
+      if (matchesWord(unit, record.code)) return &record;
+    return nullptr;
+  });
 }
 
 // The first currency whose major unit is `record`, or null (also for a null record).
@@ -159,7 +162,8 @@ void EnglishGrammar::speakDecimal(const DigitList&, const DigitList&, const std:
 // outside 1-12 (the date patterns let "00" through) is left out with its "of".
 int EnglishGrammar::speakDate(const std::string& day, const std::string& month, const std::string&,
                               const std::string& century, const std::string& yearTail, std::string& out) {
-  WordList words{"the", english::dayOrdinal(day)};
+  const std::string ordinal = english::dayOrdinal(day);  // outlives the list that views it
+  WordList words{"the", ordinal};
   const int monthNumber = readInt(month);
   if (monthNumber >= 1 && monthNumber <= 12) {
     words.emplace_back("of");

@@ -11,8 +11,6 @@
 
 namespace vela {
 
-using romanian::sayNumber;
-
 namespace {
 
 // Bare numbers and digits are said as one counts: "unu", "doi", "doisprezece".
@@ -88,11 +86,9 @@ void appendDigitByDigit(std::string_view digits, std::string& out) {
   }
 }
 
-std::string numberWords(const std::string& number, int gender) {
-  if (number.size() <= kLongestNumber) return sayNumber(number, gender, 0);
-  std::string words;
-  appendDigitByDigit(number, words);
-  return words;
+void appendNumberWords(std::string_view number, int gender, std::string& out) {
+  if (number.size() <= kLongestNumber) return romanian::appendNumber(number, gender, 0, out);
+  appendDigitByDigit(number, out);
 }
 
 // The number and its noun: "douazeci si cinci de lei", "un leu", "doua minute".
@@ -102,7 +98,7 @@ void appendCount(const std::string& number, const std::string& key, std::string&
   int gender = genderOf(key);
   if (gender == romanian::kNeuter) gender = readInt(number) == 1 ? romanian::kMasculine : romanian::kFeminine;
   const char* noun = nounAfter(number, key);
-  out += numberWords(number, gender);
+  appendNumberWords(number, gender, out);
   out += takesDe(number) && *noun != '\0' ? romanian::kCountLink : " ";
   out += noun;
 }
@@ -127,7 +123,7 @@ void refuseDecimal(const std::string& text) { std::printf(" no decimal reading %
 void speakNumberPiece(std::string_view piece, std::string& out) {
   std::size_t zeros = 0;
   for (; zeros < piece.size() && piece[zeros] == '0'; ++zeros) out += romanian::kZeroGroup;
-  if (zeros < piece.size()) out += numberWords(std::string(piece.substr(zeros)), kCounting);
+  if (zeros < piece.size()) appendNumberWords(piece.substr(zeros), kCounting, out);
 }
 
 // Keys one by one; a run of two or three equal digits is "double"/"triple" and
@@ -298,17 +294,29 @@ void RomanGrammar::speakCharacter(const std::string& character, std::string& out
 // the ordinal one, the month, and the four-digit year from 1900 to 3000.
 int RomanGrammar::speakDate(const std::string& day, const std::string& month, const std::string& year,
                             const std::string&, const std::string&, std::string& out) {
-  out += sayNumber(day, romanian::kMasculine, 1);
+  romanian::appendNumber(day, romanian::kMasculine, 1, out);
   out += ' ';
   const int monthNumber = readInt(month);
   if (monthNumber >= 1 && monthNumber <= 12) out += romanian::kMonths[monthNumber];
   const int yearNumber = readInt(year);
   if (yearNumber >= 1900 && yearNumber <= 3000) {
     out += ' ';
-    out += sayNumber(year, romanian::kFeminine, 1);
+    romanian::appendNumber(year, romanian::kFeminine, 1, out);
   }
   return 0;
 }
+
+namespace {
+
+// " cinci minute": a clock field as a feminine number and its noun.
+void appendTimeField(const std::string& field, const char* key, std::string& out) {
+  out += ' ';
+  romanian::appendNumber(field, romanian::kFeminine, 0, out);
+  out += ' ';
+  out += nounAfter(field, key);
+}
+
+}  // namespace
 
 // "ora  paisprezece  cinci minute" for 14:05; "ora  doua zero zero" for 2:00.
 // No range checks: 25:00 is "ora" and twenty-five.
@@ -319,13 +327,13 @@ void RomanGrammar::speakClockTimeWithSeconds(const std::string& hours, const std
   const int s = readInt(seconds);
   if (h != 0) {
     out += romanian::kHourWord;
-    out += sayNumber(timeField(hours), romanian::kFeminine, 0);
+    romanian::appendNumber(timeField(hours), romanian::kFeminine, 0, out);
   } else {
     out += romanian::kHourZero;
   }
   if (m != 0) {
     const std::string field = timeField(minutes);
-    out += ' ' + sayNumber(field, romanian::kFeminine, 0) + ' ' + nounAfter(field, romanian::kMinuteKey);
+    appendTimeField(field, romanian::kMinuteKey, out);
     if (s == 0) return;
   }
   if (m == 0 && s == 0) {
@@ -333,7 +341,7 @@ void RomanGrammar::speakClockTimeWithSeconds(const std::string& hours, const std
     return;
   }
   const std::string field = timeField(seconds);
-  out += ' ' + sayNumber(field, romanian::kFeminine, 0) + ' ' + nounAfter(field, romanian::kSecondKey);
+  appendTimeField(field, romanian::kSecondKey, out);
 }
 
 // h:mm is said as h:mm:00.

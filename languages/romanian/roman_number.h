@@ -21,4 +21,8 @@ std::string sayGroup(std::string_view digits, int gender);
 // a digit counts as 0; no table is read out of range.
 std::string sayNumber(std::string_view digits, int gender, int ordinal);
 
+// The same readings appended to `out`, without a string of their own.
+void appendGroup(std::string_view digits, int gender, std::string& out);
+void appendNumber(std::string_view digits, int gender, int ordinal, std::string& out);
+
 }  // namespace vela::romanian

@@ -5,7 +5,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <span>
+#include <string_view>
 
 namespace vela {
 
@@ -70,6 +72,49 @@ struct NumberWords {
   std::array<HundredsRow, 10> hundreds;
 };
 
+// The same number words as views, their lengths counted once: the
+// cardinal readings append many of them. A form the table lacks (kNoForm) is a
+// view without data.
+struct NumberViews {
+  struct Teen {
+    std::string_view cardinal, ordinalNominative, ordinalGenitive;
+  };
+  struct Tens {
+    std::string_view cardinal, ordinalGenitive, ordinalNominative;
+  };
+  struct Hundreds {
+    std::string_view cardinal, ordinalGenitive;
+  };
+  using Genders = std::array<std::string_view, 3>;
+  std::array<Genders, 10> cardinal;
+  std::array<Genders, 10> ordinalNominative;
+  std::array<Genders, 10> ordinalGenitive;
+  std::array<Teen, 10> teens;
+  std::array<Tens, 10> tens;
+  std::array<Hundreds, 10> hundreds;
+};
+
+constexpr std::string_view viewOf(const char* word) {
+  return word != nullptr ? std::string_view(word) : std::string_view();
+}
+
+constexpr NumberViews viewsOf(const NumberWords& w) {
+  NumberViews v{};
+  for (std::size_t i = 0; i < 10; ++i) {
+    for (std::size_t g = 0; g < 3; ++g) {
+      v.cardinal[i][g] = viewOf(w.cardinal[i][g]);
+      v.ordinalNominative[i][g] = viewOf(w.ordinalNominative[i][g]);
+      v.ordinalGenitive[i][g] = viewOf(w.ordinalGenitive[i][g]);
+    }
+    v.teens[i] = {viewOf(w.teens[i].cardinal), viewOf(w.teens[i].ordinalNominative),
+                  viewOf(w.teens[i].ordinalGenitive)};
+    v.tens[i] = {viewOf(w.tens[i].cardinal), viewOf(w.tens[i].ordinalGenitive),
+                 viewOf(w.tens[i].ordinalNominative)};
+    v.hundreds[i] = {viewOf(w.hundreds[i].cardinal), viewOf(w.hundreds[i].ordinalGenitive)};
+  }
+  return v;
+}
+
 // Keys of the unit rows that read a decimal fraction ("две целых пять десятых").
 struct DecimalKeys {
   const char* whole;
@@ -80,6 +125,7 @@ struct DecimalKeys {
 // Everything that makes one language of the family.
 struct FamilyLanguage {
   const NumberWords* numbers;
+  const NumberViews* numberViews;  // viewsOf(*numbers)
   std::span<const UnitRow> units;  // first match wins: never sorted
   std::span<const CurrencyRow> currencies;
   std::span<const SymbolRow> symbols;

@@ -1,7 +1,9 @@
 // Numbers, plural forms, units and money of the Russian family.
 #include "languages/russian/family_speaker.h"
 
+#include <array>
 #include <cstdio>
+#include <iterator>
 #include <string_view>
 
 namespace vela {
@@ -14,42 +16,45 @@ int rowOf(int value, int scale) {
 }
 
 // A form the table lacks is spoken as the cardinal.
-const char* orCardinal(const char* form, const char* cardinal) { return form != kNoForm ? form : cardinal; }
+std::string_view orCardinal(std::string_view form, std::string_view cardinal) {
+  return form.data() != nullptr ? form : cardinal;
+}
 
-void appendWord(const char* word, std::string& out) {
-  if (word == nullptr) return;
+// A word without data appends nothing, not even its space.
+void appendWord(std::string_view word, std::string& out) {
+  if (word.data() == nullptr) return;
   out += ' ';
   out += word;
 }
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
-const char* teenWord(const NumberWords& words, int teen, bool genitive, bool ordinal) {
-  if (teen < 11 || teen > 19) return nullptr;
-  const TeenRow& row = words.teens[teen - 10];
+std::string_view teenWord(const NumberViews& words, int teen, bool genitive, bool ordinal) {
+  if (teen < 11 || teen > 19) return {};
+  const NumberViews::Teen& row = words.teens[teen - 10];
   if (!ordinal) return row.cardinal;
   return genitive ? row.ordinalGenitive : orCardinal(row.ordinalNominative, row.cardinal);
 }
 
-const char* unitsWord(const NumberWords& words, int units, int gender, bool genitive, bool ordinal) {
-  if (units < 1 || units > 9 || gender < kMasculine || gender > kNeuter) return nullptr;
+std::string_view unitsWord(const NumberViews& words, int units, int gender, bool genitive, bool ordinal) {
+  if (units < 1 || units > 9 || gender < kMasculine || gender > kNeuter) return {};
   const auto& table = genitive ? words.ordinalGenitive : ordinal ? words.ordinalNominative : words.cardinal;
   return table[units][gender];
 }
 
 // Only the last spoken word of an ordinal takes the ordinal form: "двадцать первое", "двадцатое".
-const char* tensWord(const NumberWords& words, const DigitGroup& group, bool genitive, bool ordinal) {
+std::string_view tensWord(const NumberViews& words, const DigitGroup& group, bool genitive, bool ordinal) {
   const int row = rowOf(group.tens, 10);
-  if (row < 0) return nullptr;
-  const TensRow& tens = words.tens[row];
+  if (row < 0) return {};
+  const NumberViews::Tens& tens = words.tens[row];
   if (!ordinal || group.units != 0) return tens.cardinal;
   return genitive ? tens.ordinalGenitive : orCardinal(tens.ordinalNominative, tens.cardinal);
 }
 
 // A round hundred asked for as a nominative ordinal stays the cardinal ("сто").
-const char* hundredsWord(const NumberWords& words, const DigitGroup& group, bool genitive) {
+std::string_view hundredsWord(const NumberViews& words, const DigitGroup& group, bool genitive) {
   const int row = rowOf(group.hundreds, 100);
-  if (row < 0) return nullptr;
+  if (row < 0) return {};
   const bool last = group.tens == 0 && group.teen == 0 && group.units == 0;
   return genitive && last ? words.hundreds[row].ordinalGenitive : words.hundreds[row].cardinal;
 }
@@ -73,9 +78,10 @@ int FamilySpeaker::speak3(const DigitGroup& group, int gender, int genitive, int
     std::printf("%s", lang_.speak3Complaint);
     return 0;
   }
-  const NumberWords& words = *lang_.numbers;
-  const char* units = group.teen != 0 ? teenWord(words, group.teen, genitive != 0, ordinal != 0)
-                                      : unitsWord(words, group.units, gender, genitive != 0, ordinal != 0);
+  const NumberViews& words = *lang_.numberViews;
+  const std::string_view units = group.teen != 0
+                                     ? teenWord(words, group.teen, genitive != 0, ordinal != 0)
+                                     : unitsWord(words, group.units, gender, genitive != 0, ordinal != 0);
   appendWord(hundredsWord(words, group, genitive != 0), out);
   appendWord(tensWord(words, group, genitive != 0, ordinal != 0), out);
   appendWord(units, out);
@@ -93,9 +99,9 @@ void FamilySpeaker::appendUnitForm(const DigitGroup& group, std::string& out, in
   const UnitRow* row = unitRow(unitRowIndex);
   if (row == nullptr) return;
   if (group.value == 0 && mode == 0) return;
-  if (group.teen != 0) return appendWord(row->form5, out);
-  if (group.units == 1) return appendWord(row->form1, out);
-  if (group.units >= 2 && group.units <= 4) return appendWord(row->form2, out);
+  if (group.teen != 0) return appendWord(viewOf(row->form5), out);
+  if (group.units == 1) return appendWord(viewOf(row->form1), out);
+  if (group.units >= 2 && group.units <= 4) return appendWord(viewOf(row->form2), out);
   if (group.tens == 0 && group.hundreds == 0 && group.units == 0) {
     if (mode == 0) return;
     if (mode == 2) {
@@ -104,21 +110,26 @@ void FamilySpeaker::appendUnitForm(const DigitGroup& group, std::string& out, in
       return;
     }
   }
-  appendWord(row->form5, out);
+  appendWord(viewOf(row->form5), out);
 }
 
 int FamilySpeaker::findUnit(const std::string& suffix) const {
-  for (std::size_t i = 0; i < lang_.units.size(); ++i) {
-    if (matchesWord(suffix, lang_.units[i].key) || matchesWord(suffix, lang_.units[i].form1)) {
-      return static_cast<int>(i);
+  thread_local LastLookup<int> last;
+  return last.get(lang_.units.data(), suffix, [&] {
+    for (std::size_t i = 0; i < lang_.units.size(); ++i) {
+      if (matchesWord(suffix, lang_.units[i].key) || matchesWord(suffix, lang_.units[i].form1)) {
+        return static_cast<int>(i);
+      }
     }
-  }
-  return -1;
+    return -1;
+  });
 }
 
-int FamilySpeaker::getGender(const std::string& suffix) const {
-  const UnitRow* row = unitRow(findUnit(suffix));
-  return row != nullptr ? row->gender : -1;
+int FamilySpeaker::getGender(const std::string& suffix) const { return genderOf(findUnit(suffix)); }
+
+int FamilySpeaker::genderOf(int row) const {
+  const UnitRow* unit = unitRow(row);
+  return unit != nullptr ? unit->gender : -1;
 }
 
 int FamilySpeaker::findSymbol(const std::string& token) const {
@@ -129,36 +140,41 @@ int FamilySpeaker::findSymbol(const std::string& token) const {
 }
 
 const char* FamilySpeaker::findMinorCurrency(const std::string& suffix) const {
-  for (const CurrencyRow& row : lang_.currencies) {
-    if (matchesWord(suffix, row.key)) return row.minorUnit;
-  }
-  return nullptr;
+  thread_local LastLookup<const char*> last;
+  return last.get(lang_.currencies.data(), suffix, [&]() -> const char* {
+    for (const CurrencyRow& row : lang_.currencies) {
+      if (matchesWord(suffix, row.key)) return row.minorUnit;
+    }
+    return nullptr;
+  });
 }
 
 bool FamilySpeaker::isUnit(const std::string& unit) const {
-  for (const UnitRow& row : lang_.units) {
-    if (matchesWord(unit, row.key)) return true;
-  }
-  return false;
+  thread_local LastLookup<bool> last;
+  return last.get(lang_.units.data(), unit, [&] {
+    for (const UnitRow& row : lang_.units) {
+      if (matchesWord(unit, row.key)) return true;
+    }
+    return false;
+  });
 }
 
 bool FamilySpeaker::isCurrency(const std::string& unit) const { return findMinorCurrency(unit) != nullptr; }
 
-// Milliards, millions and thousands; returns whether all of them are zero.
-bool FamilySpeaker::speakHigherGroups(const std::string& digits, std::string& out) const {
+// Milliards, millions and thousands (the first three of `groups`); returns
+// whether all of them are zero.
+bool FamilySpeaker::speakHigherGroups(const std::array<DigitGroup, 4>& groups, std::string& out) const {
   struct Order {
-    int cut;
     int gender;
     int row;
   };
   // "одна тысяча", "две тысячи": thousands are feminine.
-  const Order orders[] = {{9, kMasculine, lang_.milliardsRow},
-                          {6, kMasculine, lang_.millionsRow},
-                          {3, kFeminine, lang_.thousandsRow}};
+  const Order orders[] = {
+      {kMasculine, lang_.milliardsRow}, {kMasculine, lang_.millionsRow}, {kFeminine, lang_.thousandsRow}};
   bool belowThousand = true;
-  for (const Order& order : orders) {
-    DigitGroup group;
-    getDigitGroup(digits, &group, order.cut);
+  for (std::size_t i = 0; i < std::size(orders); ++i) {
+    const Order& order = orders[i];
+    const DigitGroup& group = groups[i];
     speak3(group, order.gender, 0, 0, out);
     appendUnitForm(group, out, order.row, 0);
     if (group.value != 0) belowThousand = false;
@@ -167,10 +183,9 @@ bool FamilySpeaker::speakHigherGroups(const std::string& digits, std::string& ou
 }
 
 void FamilySpeaker::speakCardinal(const std::string& digits, int gender, std::string& out) const {
-  speakHigherGroups(digits, out);
-  DigitGroup group;
-  getDigitGroup(digits, &group, 0);
-  speak3(group, gender, 0, 0, out);
+  const std::array<DigitGroup, 4> groups = getDigitGroups(digits);
+  speakHigherGroups(groups, out);
+  speak3(groups[3], gender, 0, 0, out);
 }
 
 // "0руб" is "ноль рублей", but "5000руб" is "пять тысяч рублей" without "ноль".
@@ -178,11 +193,11 @@ void FamilySpeaker::speakCount(const std::string& digits, const std::string& suf
   if (suffix.empty()) return speakCardinal(digits, kMasculine, out);
   if (lang_.femaleSuffix != nullptr && suffix == lang_.femaleSuffix)
     return speakCardinal(digits, kFeminine, out);
-  const bool belowThousand = speakHigherGroups(digits, out);
-  DigitGroup group;
-  getDigitGroup(digits, &group, 0);
+  const std::array<DigitGroup, 4> groups = getDigitGroups(digits);
+  const bool belowThousand = speakHigherGroups(groups, out);
+  const DigitGroup& group = groups[3];
   const int row = findUnit(suffix);
-  const int gender = getGender(suffix);
+  const int gender = genderOf(row);
   if (gender == -1) {
     std::printf(" wrong suffix (getGender) %s \r\n", suffix.c_str());
     return;
@@ -262,7 +277,7 @@ void FamilySpeaker::speakMinorUnits(const std::string& fracDigits, const std::st
   const char* word = findMinorCurrency(unit);
   if (word == nullptr) return;
   const int row = findUnit(word);
-  const int gender = getGender(word);
+  const int gender = genderOf(row);
   if (row == -1 || gender == -1) {
     std::printf("wrong minor %s\r\n", word);
     return;
@@ -308,7 +323,7 @@ void FamilySpeaker::speakDecimal(const std::string& intDigits, const std::string
                                  const std::string& unit, std::string& out) const {
   if (!speakDecimalNumber(intDigits, fracDigits, out)) return;
   const int row = findUnit(unit);
-  if (getGender(unit) == -1) {
+  if (genderOf(row) == -1) {
     std::printf(" wrong suffix (getGender) %s \r\n", unit.c_str());
     return;
   }

@@ -5,6 +5,7 @@
 // reported with printf on standard output and never stops a request.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -70,7 +71,9 @@ class FamilySpeaker {
 
  private:
   const UnitRow* unitRow(int row) const;
-  bool speakHigherGroups(const std::string& digits, std::string& out) const;
+  // Gender of unit row `row`; -1 when there is no such row.
+  int genderOf(int row) const;
+  bool speakHigherGroups(const std::array<DigitGroup, 4>& groups, std::string& out) const;
   void speakCardinal(const std::string& digits, int gender, std::string& out) const;
   void speakNumberPiece(std::string_view piece, std::string& out) const;
   void appendProxyForm(const char* proxyDigit, int row, std::string& out) const;

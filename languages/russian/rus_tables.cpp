@@ -221,10 +221,14 @@ constexpr const char* kMonths[] = {
 
 constexpr DecimalKeys kDecimalKeys = {.whole = "tsl", .tenths = "des", .hundredths = "sot"};
 
+// Filled when the library loads (a sanitizer build cannot fold pointer tests at compile time).
+const NumberViews kNumberViews = viewsOf(kNumbers);
+
 }  // namespace
 
 constinit const FamilyLanguage kRussianLanguage = {
     .numbers = &kNumbers,
+    .numberViews = &kNumberViews,
     .units = kUnits,
     .currencies = kCurrencies,
     .symbols = kSymbols,

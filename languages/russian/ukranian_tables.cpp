@@ -141,10 +141,14 @@ constexpr const char* kMonths[] = {
 };
 // clang-format on
 
+// Filled when the library loads (a sanitizer build cannot fold pointer tests at compile time).
+const NumberViews kNumberViews = viewsOf(kNumbers);
+
 }  // namespace
 
 constinit const FamilyLanguage kUkrainianLanguage = {
     .numbers = &kNumbers,
+    .numberViews = &kNumberViews,
     .units = kUnits,
     .currencies = kCurrencies,
     .symbols = kSymbols,

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <climits>
+#include <iterator>
+#include <string>
+#include <vector>
 
 #include "grammar/cp1251.h"
 
@@ -41,6 +45,53 @@ TEST(DigitGroupTest, Table) {
       return std::vector{d.value, d.hundreds, d.tens, d.teen, d.units};
     };
     EXPECT_EQ(fields(g), fields(c.expected)) << c.number << " cut " << c.cut;
+  }
+}
+
+// getDigitGroups reads all four cuts at once; it must agree with getDigitGroup
+// cut by cut on every number above, digits only or not.
+TEST(DigitGroupTest, AllCutsAgreeWithOneCut) {
+  const char* extra[] = {"1", "1000", "999999999999", "2147483648000", "0001002003", "12 34", "-5"};
+  std::vector<std::string> numbers(std::begin(extra), std::end(extra));
+  for (const auto& c : kGroups) numbers.emplace_back(c.number);
+  const auto fields = [](const DigitGroup& d) {
+    return std::vector{d.value, d.hundreds, d.tens, d.teen, d.units};
+  };
+  const int cuts[4] = {9, 6, 3, 0};
+  for (const std::string& number : numbers) {
+    const std::array<DigitGroup, 4> all = getDigitGroups(number);
+    for (int i = 0; i < 4; ++i) {
+      DigitGroup one;
+      getDigitGroup(number, &one, cuts[i]);
+      EXPECT_EQ(fields(all[i]), fields(one)) << number << " cut " << cuts[i];
+    }
+  }
+}
+
+// The remembered answer is given back only for the same table and the same
+// bytes; a word too long to keep is looked up every time.
+TEST(LastLookupTest, AsksAgainWhenTableOrWordChanges) {
+  const int tableA = 0;
+  const int tableB = 0;
+  const std::string longWord(LastLookup<int>::kMaxWord + 1, 'w');
+  struct Step {
+    const void* table;
+    std::string word;
+    bool asked;
+  };
+  const Step steps[] = {
+      {nullptr, "", true},  // nothing is remembered before the first answer
+      {&tableA, "rub", true},    {&tableA, "rub", false},   {&tableB, "rub", true}, {&tableB, "RUB", true},
+      {&tableB, "RUB", false},   {&tableB, "RU", true},     {&tableB, "", true},    {&tableB, "", false},
+      {&tableB, longWord, true}, {&tableB, longWord, true},
+  };
+  LastLookup<int> last;
+  int asked = 0;
+  for (const Step& step : steps) {
+    const int before = asked;
+    const int answer = last.get(step.table, step.word, [&] { return ++asked * 10; });
+    EXPECT_EQ(asked - before, step.asked ? 1 : 0) << step.word;
+    EXPECT_EQ(answer, asked * 10) << step.word;
   }
 }
 
