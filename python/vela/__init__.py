@@ -21,7 +21,7 @@ _JNI_ENTRY = "Java_com_talvik_ostra_macrosynthesis_vela_VelaMacroSynthesis_getSp
 
 
 def _candidates():
-    here = os.path.dirname(os.path.abspath(__file__))
+    here = os.path.dirname(os.path.realpath(__file__))
     if os.environ.get("VELA_LIBRARY"):
         yield os.environ["VELA_LIBRARY"]
         return
