@@ -91,4 +91,16 @@ std::array<DigitGroup, 4> getDigitGroups(const std::string& number) {
   return groups;
 }
 
+bool speakNoneAmount(std::span<const NoneAmount> table, const std::string& intDigits, const std::string& unit,
+                     std::string& out) {
+  if (intDigits != "0") return false;
+  for (const NoneAmount& row : table) {
+    if (unit == row.unit) {
+      out = row.phrase;
+      return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace vela

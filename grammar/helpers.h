@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -105,5 +106,16 @@ unsigned char lowerCp1251(unsigned char c);
 // atoi without undefined behaviour: leading spaces, an optional sign, then
 // digits up to the first non-digit; saturates at INT_MAX / INT_MIN.
 int readInt(std::string_view text);
+
+// A zero count of a unit that one phrase says ("no messages"); the unit is
+// compared as written.
+struct NoneAmount {
+  const char* unit;
+  const char* phrase;
+};
+
+// The phrase of `unit` in place of `out` when the amount is "0"; false otherwise.
+bool speakNoneAmount(std::span<const NoneAmount> table, const std::string& intDigits, const std::string& unit,
+                     std::string& out);
 
 }  // namespace vela

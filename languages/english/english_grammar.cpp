@@ -20,11 +20,7 @@ using english::WordList;
 
 namespace {
 
-// A zero count of these units is one phrase; the unit is compared as written.
-struct NoneAmount {
-  const char* unit;
-  const char* phrase;
-};
+// A zero count of these units is one phrase.
 constexpr NoneAmount kNoneAmounts[] = {
     {"msg", "no messages"},
     {"mes", "no messages"},
@@ -99,14 +95,7 @@ void speakHoursAndMinutes(EnglishGrammar& grammar, const std::string& hours, con
 
 bool EnglishGrammar::speakSpecialAmount(const std::string& intDigits, const std::string& unit,
                                         std::string& out) {
-  if (intDigits != "0") return false;
-  for (const NoneAmount& row : kNoneAmounts) {
-    if (unit == row.unit) {
-      out = row.phrase;
-      return true;
-    }
-  }
-  return false;
+  return speakNoneAmount(kNoneAmounts, intDigits, unit, out);
 }
 
 // Currencies are records of the unit table.

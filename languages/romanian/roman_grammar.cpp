@@ -48,11 +48,7 @@ const char* symbolWord(char symbol) {
   return nullptr;
 }
 
-// A zero count of these units is one phrase; the unit is compared as written.
-struct NoneAmount {
-  const char* unit;
-  const char* phrase;
-};
+// A zero count of these units is one phrase.
 constexpr NoneAmount kNoneAmounts[] = {
     {"num", romanian::kNoNumbers},
     {"mes", romanian::kNoMessages},
@@ -179,14 +175,7 @@ void speakSpan(std::initializer_list<SpanPart> parts, std::string& out) {
 
 bool RomanGrammar::speakSpecialAmount(const std::string& intDigits, const std::string& unit,
                                       std::string& out) {
-  if (intDigits != "0") return false;
-  for (const NoneAmount& row : kNoneAmounts) {
-    if (unit == row.unit) {
-      out = row.phrase;
-      return true;
-    }
-  }
-  return false;
+  return speakNoneAmount(kNoneAmounts, intDigits, unit, out);
 }
 
 // Nouns, their genders, currencies and the zero phrases.
