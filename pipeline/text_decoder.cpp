@@ -18,7 +18,6 @@ TextDecoder::TextDecoder(IGrammar& injected, std::string_view requestText)
 }
 
 void TextDecoder::reserveBuffers() {
-  languageTag.reserve(kRequestBytes);
   text.reserve(kRequestBytes);
   output.reserve(kReadingBytes);
   work.reserve(kReadingBytes);
@@ -32,29 +31,33 @@ void TextDecoder::reserveBuffers() {
 }
 
 void TextDecoder::reset(std::string_view tag, std::string_view requestText, unsigned char mode) {
-  languageTag.assign(tag);
+  trimInput(requestText);
   text.assign(requestText);
   output.clear();
   errorText.clear();
   match = TokenMatch{};
-  grammar = &grammarFor(languageTag, mode, errorText);
+  grammar = &grammarFor(tag, mode, errorText);
   failed = errorText.empty() ? 0 : 1;
-  trimInput(text);
+}
+
+int trimInput(std::string_view& s) {
+  if (s.size() > 512) return -1;
+  if (s.empty()) return -2;
+  const std::size_t zero = s.find('\0');  // a trimmed text ends at its first zero byte
+  if (zero != std::string_view::npos) s.remove_suffix(s.size() - zero);
+  std::size_t first = 0;
+  while (first < s.size() && s[first] == ' ') ++first;
+  std::size_t end = s.size();
+  while (end > first && s[end - 1] == ' ') --end;
+  s = s.substr(first, end - first);
+  return 1;
 }
 
 int trimInput(std::string& s) {
-  if (s.size() > 512) return -1;
-  if (s.empty()) return -2;
-  s.resize(std::strlen(s.c_str()));  // a trimmed text ends at its first zero byte
-  const std::size_t first = s.find_first_not_of(' ');
-  if (first == std::string::npos) {
-    s.clear();
-    return 1;
-  }
-  const std::size_t last = s.find_last_not_of(' ');
-  s.erase(last + 1);
-  s.erase(0, first);
-  return 1;
+  std::string_view view = s;
+  const int result = trimInput(view);
+  if (result == 1) s.assign(view);  // a part of itself: assign moves the bytes safely
+  return result;
 }
 
 int collapseSpaces(std::string& s) {

@@ -49,13 +49,12 @@ class TextDecoder {
   bool onDurationWithSeconds();
 
   IGrammar* grammar = nullptr;  // one instance per grammar class, never owned
-  std::string languageTag;
-  std::string text;       // trimmed at construction; the rule runner's input
-  std::string output;     // the handlers' and then the rule runner's result
-  std::string errorText;  // the factory's complaint about the tag, if any
-  TokenMatch match;       // groups of the match the current handler works on
-  int failed = 0;         // 1 when the tag was not recognised
-  std::string work;       // the rule runner's text between rules
+  std::string text;             // trimmed at construction; the rule runner's input
+  std::string output;           // the handlers' and then the rule runner's result
+  std::string errorText;        // the factory's complaint about the tag, if any
+  TokenMatch match;             // groups of the match the current handler works on
+  int failed = 0;               // 1 when the tag was not recognised
+  std::string work;             // the rule runner's text between rules
 
  private:
   // Group k of `match` as a string (empty when the rule has no such group).
@@ -73,6 +72,8 @@ class TextDecoder {
 // returns 1; such a text also ends at its first zero byte. A longer text is
 // left as it is (-1), an empty one returns -2.
 int trimInput(std::string& s);
+// The same on a view of the caller's bytes: nothing is copied.
+int trimInput(std::string_view& s);
 
 // Turns every run of spaces into one space; returns 1.
 int collapseSpaces(std::string& s);

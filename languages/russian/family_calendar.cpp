@@ -60,7 +60,7 @@ int FamilySpeaker::speakDate(const std::string& day, const std::string& month, c
 }
 
 void FamilySpeaker::speakTimePart(const DigitGroup& group, int gender, int row, std::string& words) const {
-  speak3(group, gender, 0, 0, words);
+  speakUnitsGroup(group, gender, words);
   appendUnitForm(group, words, row, 2);
 }
 

@@ -89,7 +89,11 @@ class RussianFamilyGrammar : public GrammarBase<T> {
   int findSymbol(const std::string& token) const { return speaker().findSymbol(token); }
 
  private:
-  static FamilySpeaker speaker() { return FamilySpeaker(T::language()); }
+  // The group readings are made on the language's first use.
+  static FamilySpeaker speaker() {
+    static const GroupReadings readings{FamilySpeaker(T::language())};
+    return FamilySpeaker(T::language(), &readings);
+  }
 };
 
 }  // namespace vela

@@ -161,31 +161,61 @@ bool FamilySpeaker::isUnit(const std::string& unit) const {
 
 bool FamilySpeaker::isCurrency(const std::string& unit) const { return findMinorCurrency(unit) != nullptr; }
 
+namespace {
+
+struct VariantForm {
+  int gender;
+  int FamilyLanguage::*unitRow;  // the scale word's row; null for the units group
+};
+
+constexpr VariantForm kVariantForms[GroupReadings::kCount] = {
+    {kMasculine, nullptr},
+    {kFeminine, nullptr},
+    {kNeuter, nullptr},
+    // "одна тысяча", "две тысячи": thousands are feminine.
+    {kFeminine, &FamilyLanguage::thousandsRow},
+    {kMasculine, &FamilyLanguage::millionsRow},
+    {kMasculine, &FamilyLanguage::milliardsRow},
+};
+
+// The units group in `gender`, or -1 for a gender no variant has.
+int unitsVariant(int gender) { return gender >= kMasculine && gender <= kNeuter ? gender : -1; }
+
+}  // namespace
+
+void FamilySpeaker::speakGroup(const DigitGroup& group, GroupReadings::Variant variant,
+                               std::string& out) const {
+  // A group whose value and digits disagree on zero (a byte that is not a
+  // digit) is spelled out rather than looked up.
+  const bool zero = GroupReadings::groupDigits(group) == 0;
+  if (readings_ != nullptr && (group.value == 0) == zero) {
+    out += readings_->reading(variant, group);
+    return;
+  }
+  const VariantForm& form = kVariantForms[variant];
+  speak3(group, form.gender, 0, 0, out);
+  if (form.unitRow != nullptr) appendUnitForm(group, out, lang_.*form.unitRow, 0);
+}
+
 // Milliards, millions and thousands (the first three of `groups`); returns
 // whether all of them are zero.
 bool FamilySpeaker::speakHigherGroups(const std::array<DigitGroup, 4>& groups, std::string& out) const {
-  struct Order {
-    int gender;
-    int row;
-  };
-  // "одна тысяча", "две тысячи": thousands are feminine.
-  const Order orders[] = {
-      {kMasculine, lang_.milliardsRow}, {kMasculine, lang_.millionsRow}, {kFeminine, lang_.thousandsRow}};
-  bool belowThousand = true;
-  for (std::size_t i = 0; i < std::size(orders); ++i) {
-    const Order& order = orders[i];
-    const DigitGroup& group = groups[i];
-    speak3(group, order.gender, 0, 0, out);
-    appendUnitForm(group, out, order.row, 0);
-    if (group.value != 0) belowThousand = false;
-  }
-  return belowThousand;
+  speakGroup(groups[0], GroupReadings::kMilliards, out);
+  speakGroup(groups[1], GroupReadings::kMillions, out);
+  speakGroup(groups[2], GroupReadings::kThousands, out);
+  return groups[0].value == 0 && groups[1].value == 0 && groups[2].value == 0;
 }
 
 void FamilySpeaker::speakCardinal(const std::string& digits, int gender, std::string& out) const {
   const std::array<DigitGroup, 4> groups = getDigitGroups(digits);
   speakHigherGroups(groups, out);
-  speak3(groups[3], gender, 0, 0, out);
+  speakUnitsGroup(groups[3], gender, out);
+}
+
+void FamilySpeaker::speakUnitsGroup(const DigitGroup& group, int gender, std::string& out) const {
+  const int variant = unitsVariant(gender);
+  if (variant >= 0) return speakGroup(group, static_cast<GroupReadings::Variant>(variant), out);
+  speak3(group, gender, 0, 0, out);
 }
 
 // "0руб" is "ноль рублей", but "5000руб" is "пять тысяч рублей" without "ноль".
@@ -202,7 +232,7 @@ void FamilySpeaker::speakCount(const std::string& digits, const std::string& suf
     std::printf(" wrong suffix (getGender) %s \r\n", suffix.c_str());
     return;
   }
-  speak3(group, gender, 0, 0, out);
+  speakUnitsGroup(group, gender, out);
   if (row >= 0) {
     appendUnitForm(group, out, row, belowThousand ? 2 : 1);
   } else {
@@ -284,7 +314,7 @@ void FamilySpeaker::speakMinorUnits(const std::string& fracDigits, const std::st
   }
   DigitGroup group;
   getDigitGroup(minor, &group, 0);
-  speak3(group, gender, 0, 0, out);
+  speakUnitsGroup(group, gender, out);
   appendUnitForm(group, out, row, 0);
 }
 

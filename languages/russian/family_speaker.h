@@ -12,12 +12,16 @@
 #include "grammar/helpers.h"
 #include "grammar/igrammar.h"
 #include "languages/russian/family_language.h"
+#include "languages/russian/group_readings.h"
 
 namespace vela {
 
 class FamilySpeaker {
  public:
-  explicit FamilySpeaker(const FamilyLanguage& language) : lang_(language) {}
+  // With `readings`, cardinal groups are appended from them; without, each is
+  // spelled word by word (which is how the readings are made).
+  explicit FamilySpeaker(const FamilyLanguage& language, const GroupReadings* readings = nullptr)
+      : lang_(language), readings_(readings) {}
 
   // --- numbers, gender and plural forms ---
 
@@ -30,6 +34,9 @@ class FamilySpeaker {
   // all zero, mode 0 appends nothing, mode 1 form 5, mode 2 the zero word and
   // form 5; mode 0 also appends nothing for a zero value.
   void appendUnitForm(const DigitGroup& group, std::string& out, int unitRow, int mode) const;
+  // A cardinal group in one of the variants of GroupReadings: speak3 in the
+  // variant's gender, then for a scale group its unit form (mode 0).
+  void speakGroup(const DigitGroup& group, GroupReadings::Variant variant, std::string& out) const;
 
   // First unit row whose key or form 1 is the suffix (case-insensitive); -1.
   int findUnit(const std::string& suffix) const;
@@ -75,6 +82,7 @@ class FamilySpeaker {
   int genderOf(int row) const;
   bool speakHigherGroups(const std::array<DigitGroup, 4>& groups, std::string& out) const;
   void speakCardinal(const std::string& digits, int gender, std::string& out) const;
+  void speakUnitsGroup(const DigitGroup& group, int gender, std::string& out) const;
   void speakNumberPiece(std::string_view piece, std::string& out) const;
   void appendProxyForm(const char* proxyDigit, int row, std::string& out) const;
   bool speakDecimalNumber(const std::string& intDigits, const std::string& fracDigits,
@@ -82,6 +90,7 @@ class FamilySpeaker {
   void speakTimePart(const DigitGroup& group, int gender, int row, std::string& words) const;
 
   const FamilyLanguage& lang_;
+  const GroupReadings* readings_;
 };
 
 }  // namespace vela

@@ -127,7 +127,8 @@ const Request kUnknownTags[] = {{"xx", "ab"}, {"", "x.wav"}, {"english", "\"12#*
 
 TEST(AllocationTest, OnlyTheAnswerIsAllocated) {
   std::string answer;
-  countRequest("ru", "1", answer);  // the thread's first request sets up its buffers
+  countRequest("ru", "1", answer);  // the thread's first request sets up its buffers,
+  countRequest("uk", "1", answer);  // and a Russian-family language's first its group readings
   std::printf("%s", "");            // and standard output its own, as a grammar's complaint would
   for (const auto& table : {std::span<const Request>(kRequests), std::span<const Request>(kUnknownTags)}) {
     for (const Request& r : table) {
