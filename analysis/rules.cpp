@@ -43,16 +43,16 @@ constexpr int kMaxPassesPerRule = 16;
 
 void runRules(TextDecoder& decoder) {
   std::string& work = decoder.work;
-  work.assign(decoder.text);
-  if (work.find(".wav") != std::string::npos) {
-    decoder.output.swap(work);
-    return;
-  }
+  const std::string& text = decoder.text;
   // One scan of the text finds the first rule that takes it whole. After a
   // handler, one scan of its output finds whether the same rule takes that
   // again, or else the first later rule that does; rules in between are
-  // skipped in the same step.
-  int rule = classifyToken(work, 0, decoder.match);
+  // skipped in the same step. The first handler reads its groups in the text.
+  int rule = text.find(".wav") != std::string::npos ? -1 : classifyToken(text, 0, decoder.match);
+  if (rule < 0) {
+    decoder.output.assign(text);
+    return;
+  }
   int passes = 0;
   while (rule >= 0) {
     decoder.output.clear();

@@ -58,35 +58,51 @@ constexpr int kCuts[4] = {9, 6, 3, 0};
 
 }  // namespace
 
-void getDigitGroup(const std::string& number, DigitGroup* group, int cut) {
+void getDigitGroup(std::string_view number, DigitGroup* group, int cut) {
   *group = DigitGroup{};
   std::size_t drop = cut > 0 ? static_cast<std::size_t>(cut) : 0;
   if (number.size() <= drop) return;
-  const std::string_view t = std::string_view(number).substr(0, number.size() - drop);
+  const std::string_view t = number.substr(0, number.size() - drop);
   fillGroup(t, readInt(t), group);
 }
 
-// Reads the digits once, keeping the value of every prefix a cut leaves; the
-// reading stops where the value saturates at INT_MAX, as readInt's does. A
-// byte that is not a digit before that point sends the text the general way.
-std::array<DigitGroup, 4> getDigitGroups(const std::string& number) {
+namespace {
+
+// The parts of a group whose last digit is number[end - 1], all digits.
+void fillFromDigits(std::string_view number, std::size_t end, DigitGroup* group) {
+  const int units = number[end - 1] - '0';
+  const int tens = end >= 2 ? number[end - 2] - '0' : 0;
+  if (tens == 1 && units != 0) {
+    group->teen = 10 + units;
+  } else {
+    group->tens = tens * 10;
+    group->units = units;
+  }
+  group->hundreds = end >= 3 ? (number[end - 3] - '0') * 100 : 0;
+}
+
+}  // namespace
+
+// Reads the digits once, keeping the value of every prefix a cut leaves (it
+// saturates at INT_MAX, as readInt's does, and stops being read there). A text
+// with a byte that is not a digit goes the general way.
+std::array<DigitGroup, 4> getDigitGroups(std::string_view number) {
   std::array<DigitGroup, 4> groups{};
+  for (const char c : number) {
+    if (c < '0' || c > '9') {
+      for (int k = 0; k < 4; ++k) getDigitGroup(number, &groups[k], kCuts[k]);
+      return groups;
+    }
+  }
   const std::size_t n = number.size();
   long long value = 0;
   std::size_t read = 0;
   for (int i = 0; i < 4; ++i) {
     const auto cut = static_cast<std::size_t>(kCuts[i]);
     if (n <= cut) continue;
-    for (; read < n - cut && value <= INT_MAX; ++read) {
-      const char c = number[read];
-      if (c < '0' || c > '9') {
-        for (int k = 0; k < 4; ++k) getDigitGroup(number, &groups[k], kCuts[k]);
-        return groups;
-      }
-      value = value * 10 + (c - '0');
-    }
-    const int saturated = value > INT_MAX ? INT_MAX : static_cast<int>(value);
-    fillGroup(std::string_view(number).substr(0, n - cut), saturated, &groups[i]);
+    for (; read < n - cut && value <= INT_MAX; ++read) value = value * 10 + (number[read] - '0');
+    groups[i].value = value > INT_MAX ? INT_MAX : static_cast<int>(value);
+    fillFromDigits(number, n - cut, &groups[i]);
   }
   return groups;
 }

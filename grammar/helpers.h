@@ -26,12 +26,12 @@ struct DigitGroup {
 // last twelve digits of a long number land in the four groups; `value` saturates
 // at INT_MAX instead of overflowing; a byte that is not a digit ("1,5") counts
 // as the digit 0 in hundreds/tens/units, so no table is ever indexed by it.
-void getDigitGroup(const std::string& number, DigitGroup* group, int cut);
+void getDigitGroup(std::string_view number, DigitGroup* group, int cut);
 
 // The groups of `number` at the cuts 9, 6, 3 and 0 (milliards, millions,
 // thousands, units), each as getDigitGroup gives it, from one reading of a
 // number of digits only.
-std::array<DigitGroup, 4> getDigitGroups(const std::string& number);
+std::array<DigitGroup, 4> getDigitGroups(std::string_view number);
 
 namespace detail {
 

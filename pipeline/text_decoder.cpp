@@ -34,8 +34,7 @@ void TextDecoder::reset(std::string_view tag, std::string_view requestText, unsi
   trimInput(requestText);
   text.assign(requestText);
   output.clear();
-  errorText.clear();
-  match = TokenMatch{};
+  errorText.clear();  // the groups in `match` are set by the classifier before any handler reads them
   grammar = &grammarFor(tag, mode, errorText);
   failed = errorText.empty() ? 0 : 1;
 }
@@ -43,13 +42,12 @@ void TextDecoder::reset(std::string_view tag, std::string_view requestText, unsi
 int trimInput(std::string_view& s) {
   if (s.size() > 512) return -1;
   if (s.empty()) return -2;
-  const std::size_t zero = s.find('\0');  // a trimmed text ends at its first zero byte
-  if (zero != std::string_view::npos) s.remove_suffix(s.size() - zero);
-  std::size_t first = 0;
-  while (first < s.size() && s[first] == ' ') ++first;
-  std::size_t end = s.size();
-  while (end > first && s[end - 1] == ' ') --end;
-  s = s.substr(first, end - first);
+  const char* begin = s.data();
+  const auto* zero = static_cast<const char*>(std::memchr(begin, '\0', s.size()));
+  const char* end = zero != nullptr ? zero : begin + s.size();  // a trimmed text ends at its first zero byte
+  while (begin < end && *begin == ' ') ++begin;
+  while (end > begin && end[-1] == ' ') --end;
+  s = std::string_view(begin, static_cast<std::size_t>(end - begin));
   return 1;
 }
 

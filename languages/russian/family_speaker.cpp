@@ -189,7 +189,8 @@ void FamilySpeaker::speakGroup(const DigitGroup& group, GroupReadings::Variant v
   // digit) is spelled out rather than looked up.
   const bool zero = GroupReadings::groupDigits(group) == 0;
   if (readings_ != nullptr && (group.value == 0) == zero) {
-    out += readings_->reading(variant, group);
+    const std::string_view reading = readings_->reading(variant, group);
+    if (!reading.empty()) out += reading;
     return;
   }
   const VariantForm& form = kVariantForms[variant];
@@ -206,7 +207,7 @@ bool FamilySpeaker::speakHigherGroups(const std::array<DigitGroup, 4>& groups, s
   return groups[0].value == 0 && groups[1].value == 0 && groups[2].value == 0;
 }
 
-void FamilySpeaker::speakCardinal(const std::string& digits, int gender, std::string& out) const {
+void FamilySpeaker::speakCardinal(std::string_view digits, int gender, std::string& out) const {
   const std::array<DigitGroup, 4> groups = getDigitGroups(digits);
   speakHigherGroups(groups, out);
   speakUnitsGroup(groups[3], gender, out);
@@ -267,7 +268,7 @@ void FamilySpeaker::speakNumberPiece(std::string_view piece, std::string& out) c
   }
   std::size_t zeros = 0;
   for (; zeros < piece.size() && piece[zeros] == '0'; ++zeros) out += lang_.leadingZero;
-  if (zeros < piece.size()) speakCount(std::string(piece.substr(zeros)), std::string(), out);
+  if (zeros < piece.size()) speakCardinal(piece.substr(zeros), kMasculine, out);
 }
 
 void FamilySpeaker::speakDigitString(const DigitList& tokenList, std::string& out) const {

@@ -81,7 +81,7 @@ class FamilySpeaker {
   // Gender of unit row `row`; -1 when there is no such row.
   int genderOf(int row) const;
   bool speakHigherGroups(const std::array<DigitGroup, 4>& groups, std::string& out) const;
-  void speakCardinal(const std::string& digits, int gender, std::string& out) const;
+  void speakCardinal(std::string_view digits, int gender, std::string& out) const;
   void speakUnitsGroup(const DigitGroup& group, int gender, std::string& out) const;
   void speakNumberPiece(std::string_view piece, std::string& out) const;
   void appendProxyForm(const char* proxyDigit, int row, std::string& out) const;
