@@ -54,19 +54,21 @@ void runRules(TextDecoder& decoder) {
     return;
   }
   int passes = 0;
-  while (rule >= 0) {
+  for (;;) {
     decoder.output.clear();
     // A local: GCC's bounds sanitizer misreads an index inside a member-pointer call.
     const auto handler = decodeRules[rule].handler;
     (decoder.*handler)();
-    work.swap(decoder.output);  // the groups pointed into the old text: classified anew below
     ++passes;
-    int next = classifyToken(work, rule, decoder.match);
-    if (next == rule && passes == kMaxPassesPerRule) next = classifyToken(work, rule + 1, decoder.match);
+    int next = classifyToken(decoder.output, rule, decoder.match);
+    if (next == rule && passes == kMaxPassesPerRule) next = classifyToken(decoder.output, rule + 1, decoder.match);
+    if (next < 0) return;  // the reading stays in output
     if (next != rule) passes = 0;
-    rule = next;
+    // The next handler writes output, so its text moves to work; a short text
+    // moves its bytes, so its groups are found again there.
+    work.swap(decoder.output);
+    rule = classifyToken(work, next, decoder.match);
   }
-  decoder.output.swap(work);
 }
 
 }  // namespace vela

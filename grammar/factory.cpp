@@ -1,5 +1,8 @@
 #include "grammar/factory.h"
 
+#include <array>
+#include <cstdint>
+
 #include "grammar/unit_keys.h"
 #include "languages/arabic/arab_grammar.h"
 #include "languages/centralasian/armjan_grammar.h"
@@ -39,14 +42,6 @@ IGrammar* make(unsigned char, std::vector<std::string>* unitKeys) {
 IGrammar* makeRussian(unsigned char transliterated, std::vector<std::string>* unitKeys) {
   if (transliterated == 0) return make<RusGrammar>(0, unitKeys);
   return make<RusGrammarTrans>(transliterated, unitKeys);
-}
-
-// Tags are a few bytes long: comparing them in place beats a library call per row.
-bool sameTag(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i)
-    if (a[i] != b[i]) return false;
-  return true;
 }
 
 struct TagRow {
@@ -111,25 +106,79 @@ constexpr TagRow kTags[] = {
     {"ar", make<ArabGrammar>},
 };
 
+// A tag of up to 16 bytes as two numbers and its length; a longer one is no tag.
+struct PackedTag {
+  std::uint64_t low = 0, high = 0;
+  std::size_t size = 0;
+
+  constexpr bool operator==(const PackedTag&) const = default;
+};
+
+constexpr std::size_t kMaxTag = 16;
+
+constexpr PackedTag packTag(std::string_view tag) {
+  PackedTag packed;
+  packed.size = tag.size();
+  for (std::size_t i = 0; i < tag.size() && i < kMaxTag; ++i) {
+    const std::uint64_t byte = static_cast<unsigned char>(tag[i]);
+    (i < 8 ? packed.low : packed.high) |= byte << (8 * (i % 8));
+  }
+  return packed;
+}
+
+constexpr std::size_t kSlots = 128;  // a power of two, well above the number of tags
+
+constexpr std::size_t slotOf(const PackedTag& tag) {
+  const std::uint64_t mixed =
+      (tag.low ^ (tag.high * 0x9E3779B97F4A7C15ULL) ^ tag.size) * 0xFF51AFD7ED558CCDULL;
+  return static_cast<std::size_t>(mixed >> 57) & (kSlots - 1);
+}
+
+// The tag table as an open-addressing hash: one probe or two instead of a scan
+// of every row. A slot holds the row's index + 1; 0 is empty. A tag listed twice
+// keeps its first row, as the scan of the table in order would.
+struct TagIndex {
+  std::array<PackedTag, kSlots> tags{};
+  std::array<std::uint8_t, kSlots> rows{};
+};
+
+constexpr TagIndex makeTagIndex() {
+  TagIndex index;
+  for (std::size_t row = 0; row < std::size(kTags); ++row) {
+    if (kTags[row].tag.size() > kMaxTag) throw "a tag longer than kMaxTag bytes";
+    const PackedTag tag = packTag(kTags[row].tag);
+    std::size_t slot = slotOf(tag);
+    while (index.rows[slot] != 0 && !(index.tags[slot] == tag)) slot = (slot + 1) & (kSlots - 1);
+    if (index.rows[slot] != 0) continue;
+    index.tags[slot] = tag;
+    index.rows[slot] = static_cast<std::uint8_t>(row + 1);
+  }
+  return index;
+}
+
+constexpr TagIndex kTagIndex = makeTagIndex();
+
+// The row of `tag`, or null.
+const TagRow* findTag(std::string_view tag) {
+  if (tag.size() > kMaxTag) return nullptr;
+  const PackedTag packed = packTag(tag);
+  for (std::size_t slot = slotOf(packed); kTagIndex.rows[slot] != 0; slot = (slot + 1) & (kSlots - 1)) {
+    if (kTagIndex.tags[slot] == packed) return &kTags[kTagIndex.rows[slot] - 1];
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 IGrammar& grammarFor(std::string_view tag, unsigned char transliterated, std::string& error) {
-  for (const TagRow& row : kTags) {
-    if (sameTag(tag, row.tag)) return *row.maker(transliterated, nullptr);
-  }
+  if (const TagRow* row = findTag(tag)) return *row->maker(transliterated, nullptr);
   error = " language tag incorrect";
   return instance<EnglishGrammar>();
 }
 
 void listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys) {
-  Maker maker = make<EnglishGrammar>;
-  for (const TagRow& row : kTags) {
-    if (tag == row.tag) {
-      maker = row.maker;
-      break;
-    }
-  }
-  maker(transliterated, &keys);
+  const TagRow* row = findTag(tag);
+  (row != nullptr ? row->maker : make<EnglishGrammar>)(transliterated, &keys);
 }
 
 }  // namespace vela

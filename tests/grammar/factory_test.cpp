@@ -59,7 +59,18 @@ TEST(FactoryTest, EveryTagSelectsItsGrammar) {
 }
 
 // Matching is exact: no case folding, trimming or prefixes.
-const std::string kUnknownTags[] = {"", "english", "Ru", "uk ", " uk", "GEORGIAN ", std::string("ru\0", 3)};
+// Near misses: case, spaces, a zero byte, a prefix, a last byte past the
+// eighth changed, a tag longer than any.
+const std::string kUnknownTags[] = {"",
+                                    "english",
+                                    "Ru",
+                                    "uk ",
+                                    " uk",
+                                    "GEORGIAN ",
+                                    std::string("ru\0", 3),
+                                    "KAZAKHSTA",
+                                    "UKRAINIEX",
+                                    "UZBEKISTANUZBEKISTAN"};
 
 TEST(FactoryTest, UnknownTagFallsBackToEnglishWithMessage) {
   for (const auto& tag : kUnknownTags) {
