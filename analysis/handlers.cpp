@@ -18,12 +18,15 @@ const std::string& TextDecoder::group(int k) {
   return groups_[k].assign(match.group[k]);
 }
 
+// Each group is copied out of the match once; the handlers keep references.
 bool TextDecoder::onNegativeAmount() {
+  const std::string& digits = group(1);
+  const std::string& fraction = group(2);
   intList_.clear();
   fracList_.clear();
-  splitDigitGroups(group(1), intList_);
-  splitDigitGroups(group(2), fracList_);
-  grammar->speakAmount(intList_, fracList_, group(1), group(2), group(3), output);
+  splitDigitGroups(digits, intList_);
+  splitDigitGroups(fraction, fracList_);
+  grammar->speakAmount(intList_, fracList_, digits, fraction, group(3), output);
   minus_.clear();
   grammar->appendMinus(minus_);
   output.insert(0, minus_);
@@ -31,12 +34,15 @@ bool TextDecoder::onNegativeAmount() {
 }
 
 bool TextDecoder::onAmount() {
+  const std::string& digits = group(1);
+  const std::string& fraction = group(2);
+  const std::string& unit = group(3);
   intList_.clear();
   fracList_.clear();
-  splitDigitGroups(group(1), intList_);
-  splitDigitGroups(group(2), fracList_);
-  if (grammar->speakSpecialAmount(group(1), group(3), output)) return true;
-  grammar->speakAmount(intList_, fracList_, group(1), group(2), group(3), output);
+  splitDigitGroups(digits, intList_);
+  splitDigitGroups(fraction, fracList_);
+  if (grammar->speakSpecialAmount(digits, unit, output)) return true;
+  grammar->speakAmount(intList_, fracList_, digits, fraction, unit, output);
   return true;
 }
 

@@ -1,6 +1,7 @@
 #include "grammar/helpers.h"
 
 #include <array>
+#include <charconv>
 #include <climits>
 #include <cstring>
 
@@ -82,6 +83,14 @@ void fillFromDigits(std::string_view number, std::size_t end, DigitGroup* group)
 }
 
 }  // namespace
+
+DigitGroup digitGroupOf(int value) {
+  std::array<char, 16> text{};
+  const auto written = std::to_chars(text.data(), text.data() + text.size(), value);
+  DigitGroup group;
+  getDigitGroup(std::string_view(text.data(), static_cast<std::size_t>(written.ptr - text.data())), &group, 0);
+  return group;
+}
 
 // Reads the digits once, keeping the value of every prefix a cut leaves (it
 // saturates at INT_MAX, as readInt's does, and stops being read there). A text

@@ -28,6 +28,9 @@ struct DigitGroup {
 // as the digit 0 in hundreds/tens/units, so no table is ever indexed by it.
 void getDigitGroup(std::string_view number, DigitGroup* group, int cut);
 
+// The group (cut 0) of `value` written in decimal, without a string.
+DigitGroup digitGroupOf(int value);
+
 // The groups of `number` at the cuts 9, 6, 3 and 0 (milliards, millions,
 // thousands, units), each as getDigitGroup gives it, from one reading of a
 // number of digits only.
@@ -70,11 +73,11 @@ inline bool matchesWord(const std::string& token, const char* word) {
   return *word == '\0';
 }
 
-// The last answer of one look-up, kept per thread. An amount asks about its
-// unit word several times (is it a unit, a currency, which row, which minor
-// unit), and each question scans a unit table; with this the scan runs once.
-// The answer must depend only on `table` and the word. Words longer than
-// kMaxWord bytes are looked up every time.
+// The last two answers of one look-up, kept per thread. An amount asks about
+// its unit word several times (is it a unit, a currency, which row) and then
+// about its minor unit's word; each question scans a unit table, and with this
+// each word is scanned for once. The answer must depend only on `table` and
+// the word. Words longer than kMaxWord bytes are looked up every time.
 template <class Result>
 class LastLookup {
  public:
@@ -83,21 +86,30 @@ class LastLookup {
   template <class Lookup>
   Result get(const void* table, std::string_view word, Lookup lookup) {
     if (word.size() > kMaxWord) return lookup();
-    if (filled_ && table == table_ && word == std::string_view(bytes_.data(), size_)) return result_;
-    result_ = lookup();
-    filled_ = true;
-    table_ = table;
-    size_ = word.size();
-    word.copy(bytes_.data(), size_);
-    return result_;
+    for (const Entry& entry : entries_) {
+      if (entry.filled && entry.table == table && entry.word() == word) return entry.result;
+    }
+    Entry& entry = entries_[older_];  // the two are replaced in turn
+    older_ ^= 1;
+    entry.result = lookup();
+    entry.filled = true;
+    entry.table = table;
+    entry.size = word.size();
+    word.copy(entry.bytes.data(), entry.size);
+    return entry.result;
   }
 
  private:
-  bool filled_ = false;
-  const void* table_ = nullptr;
-  std::size_t size_ = 0;
-  std::array<char, kMaxWord> bytes_{};
-  Result result_{};
+  struct Entry {
+    bool filled = false;
+    const void* table = nullptr;
+    std::size_t size = 0;
+    std::array<char, kMaxWord> bytes{};
+    Result result{};
+    std::string_view word() const { return std::string_view(bytes.data(), size); }
+  };
+  std::array<Entry, 2> entries_{};
+  std::size_t older_ = 0;
 };
 
 // Lower-case of one Windows-1251 byte under that mapping.

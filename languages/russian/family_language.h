@@ -20,9 +20,9 @@ enum FamilyGender : int { kMasculine = 0, kFeminine = 1, kNeuter = 2 };
 struct UnitRow {
   const char* key;
   int gender;
-  const char* form1;
-  const char* form2;
-  const char* form5;
+  std::string_view form1;  // views: the readings append them without measuring them
+  std::string_view form2;
+  std::string_view form5;
 };
 
 // A currency key and the word (form 1) of its minor unit.

@@ -62,9 +62,8 @@ std::string_view hundredsWord(const NumberViews& words, const DigitGroup& group,
 // A fraction as hundredths: one digit is padded ("5" is 50) and digits beyond
 // the second are cut, not rounded ("567" is 56).
 int hundredthsOf(const std::string& fracDigits) {
-  std::string text = fracDigits;
-  if (text.size() == 1) text += '0';
-  int n = readInt(text);
+  int n = readInt(fracDigits);
+  if (fracDigits.size() == 1) n *= 10;
   for (int i = 0; i < 6 && n > 99; ++i) n /= 10;
   if (n > 99) std::printf("wrong fractal part %s\r\n", fracDigits.c_str());
   return n;
@@ -99,9 +98,9 @@ void FamilySpeaker::appendUnitForm(const DigitGroup& group, std::string& out, in
   const UnitRow* row = unitRow(unitRowIndex);
   if (row == nullptr) return;
   if (group.value == 0 && mode == 0) return;
-  if (group.teen != 0) return appendWord(viewOf(row->form5), out);
-  if (group.units == 1) return appendWord(viewOf(row->form1), out);
-  if (group.units >= 2 && group.units <= 4) return appendWord(viewOf(row->form2), out);
+  if (group.teen != 0) return appendWord(row->form5, out);
+  if (group.units == 1) return appendWord(row->form1, out);
+  if (group.units >= 2 && group.units <= 4) return appendWord(row->form2, out);
   if (group.tens == 0 && group.hundreds == 0 && group.units == 0) {
     if (mode == 0) return;
     if (mode == 2) {
@@ -110,14 +109,14 @@ void FamilySpeaker::appendUnitForm(const DigitGroup& group, std::string& out, in
       return;
     }
   }
-  appendWord(viewOf(row->form5), out);
+  appendWord(row->form5, out);
 }
 
 int FamilySpeaker::findUnit(const std::string& suffix) const {
   thread_local LastLookup<int> last;
   return last.get(lang_.units.data(), suffix, [&] {
     for (std::size_t i = 0; i < lang_.units.size(); ++i) {
-      if (matchesWord(suffix, lang_.units[i].key) || matchesWord(suffix, lang_.units[i].form1)) {
+      if (matchesWord(suffix, lang_.units[i].key) || matchesWord(suffix, lang_.units[i].form1.data())) {
         return static_cast<int>(i);
       }
     }
@@ -304,7 +303,7 @@ void FamilySpeaker::speakMoney(const std::string& intDigits, const std::string& 
 void FamilySpeaker::speakMinorUnits(const std::string& fracDigits, const std::string& unit,
                                     std::string& out) const {
   if (fracDigits.empty() || readInt(fracDigits) == 0) return;
-  const std::string minor = std::to_string(hundredthsOf(fracDigits));
+  const DigitGroup group = digitGroupOf(hundredthsOf(fracDigits));
   const char* word = findMinorCurrency(unit);
   if (word == nullptr) return;
   const int row = findUnit(word);
@@ -313,8 +312,6 @@ void FamilySpeaker::speakMinorUnits(const std::string& fracDigits, const std::st
     std::printf("wrong minor %s\r\n", word);
     return;
   }
-  DigitGroup group;
-  getDigitGroup(minor, &group, 0);
   speakUnitsGroup(group, gender, out);
   appendUnitForm(group, out, row, 0);
 }
