@@ -100,19 +100,18 @@ void appendCase(int value, const char* ending, std::string& out) {
 const centralasian::FamilyTables& ArmjanGrammar::tables() { return kTables; }
 
 void ArmjanGrammar::speakGroup(const DigitGroup& group, std::string& out, bool withCase) {
-  std::string text = " ";
-  if (group.value == 0) text += " zro";
-  if (group.hundreds != 0) text += wordAt(kHundreds, group.hundreds / 100);
-  if (group.tens != 0) text += wordAt(kTens, group.tens / 10);
+  out += " ";
+  if (group.value == 0) out += " zro";
+  if (group.hundreds != 0) out += wordAt(kHundreds, group.hundreds / 100);
+  if (group.tens != 0) out += wordAt(kTens, group.tens / 10);
   if (group.teen != 0) {
-    text += wordAt(kOnesAndTeens, group.teen);
-    if (withCase) appendCase(group.teen, "n", text);
+    out += wordAt(kOnesAndTeens, group.teen);
+    if (withCase) appendCase(group.teen, "n", out);
   }
   if (group.units != 0) {
-    text += wordAt(kOnesAndTeens, group.units);
-    if (withCase) appendCase(group.units, "n", text);
+    out += wordAt(kOnesAndTeens, group.units);
+    if (withCase) appendCase(group.units, "n", out);
   }
-  out += text;
 }
 
 // 1000 is mek hazar; a number of zeros says zro.
@@ -139,18 +138,23 @@ void ArmjanGrammar::speakInteger(const std::string& digits, std::string& out) {
 // checked before the day.
 int ArmjanGrammar::speakDate(const std::string& day, const std::string& month, const std::string& year,
                              const std::string&, const std::string&, std::string& out) {
-  std::string text;
-  speakInteger(year, text);
-  text += " ";
-  text += " tvakani";
+  const std::size_t start = out.size();
+  speakInteger(year, out);
+  out += " ";
+  out += " tvakani";
   DigitGroup group;
-  if (!centralasian::monthAccepted(month, group)) return 0;
-  text += wordAt(kTables.months, group.value);
-  text += " ";
-  if (!centralasian::dayAccepted(day, group)) return 0;
-  speakInteger(day, text);
-  appendCase(group.teen != 0 ? group.teen : group.units, "in", text);
-  out += text;
+  if (!centralasian::monthAccepted(month, group)) {
+    out.resize(start);
+    return 0;
+  }
+  out += wordAt(kTables.months, group.value);
+  out += " ";
+  if (!centralasian::dayAccepted(day, group)) {
+    out.resize(start);
+    return 0;
+  }
+  speakInteger(day, out);
+  appendCase(group.teen != 0 ? group.teen : group.units, "in", out);
   return 1;
 }
 

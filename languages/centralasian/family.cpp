@@ -57,12 +57,12 @@ void speakPiece(const FamilyTables& tables, NumberSpeller speakNumber, const std
                 std::string& out) {
   for (char c : piece) {
     if (c != '0') {
-      std::string number;
-      speakNumber(piece, number);  // leading zeros add nothing to the value
+      const std::size_t start = out.size();
+      speakNumber(piece, out);  // leading zeros add nothing to the value
       // A number whose first word carries no blank (a Tajik hundreds word)
       // never fuses onto the zero or the piece before it.
-      if (!number.empty() && number.front() != ' ' && !out.empty() && out.back() != ' ') out += " ";
-      out += number;
+      if (out.size() > start && out[start] != ' ' && start > 0 && out[start - 1] != ' ')
+        out.insert(start, 1, ' ');
       return;
     }
     out += tables.leadingZero;
@@ -173,8 +173,8 @@ void speakDuration(const FamilyTables& tables, NumberSpeller speakNumber, const 
   out += words.minutesWord;
 }
 
-void appendGlide(std::string& text) {
-  if (text.empty()) return;
+void appendGlide(std::string& text, std::size_t start) {
+  if (text.size() <= start) return;
   const char last = text.back();
   if (last == 'i' || last == 'a' || last == 'u' || last == 'e') text += "y";
 }

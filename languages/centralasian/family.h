@@ -128,8 +128,9 @@ void speakDuration(const FamilyTables& tables, NumberSpeller speakNumber, const 
 std::string minorDigits(const std::string& minor);
 
 // "y" onto a word ending in a vowel before the connective "u" or a suffix
-// beginning with one (Tajik: si -> siyu, du -> duyum).
-void appendGlide(std::string& text);
+// beginning with one (Tajik: si -> siyu, du -> duyum). Only the part of the
+// text from `start` on counts: nothing there, no glide.
+void appendGlide(std::string& text, std::size_t start = 0);
 
 // Checks shared by the dates and clock times; each prints the family's
 // diagnostic and returns false when the value is out of range.

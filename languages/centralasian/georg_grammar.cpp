@@ -207,18 +207,17 @@ DigitGroup normalisedGroup(const std::string& digits, int cut) {
 }
 
 void speakNormalisedGroup(const DigitGroup& group, std::string& out, bool final) {
-  std::string text = " ";
-  if (group.value == 0) text += form(kZeroGroup, final);
+  out += " ";
+  if (group.value == 0) out += form(kZeroGroup, final);
   if (group.hundreds > 0 && group.hundreds < 10) {
-    text += form(kHundreds[group.hundreds], final && group.tens == 0);
-    text += " ";
+    out += form(kHundreds[group.hundreds], final && group.tens == 0);
+    out += " ";
   }
   if (group.tens > 0 && group.tens < 100) {
-    text += " ";
-    text += form(kUpTo99[group.tens], final);
-    text += " ";
+    out += " ";
+    out += form(kUpTo99[group.tens], final);
+    out += " ";
   }
-  out += text;
 }
 
 }  // namespace
@@ -259,17 +258,20 @@ int GeorgGrammar::speakDate(const std::string& day, const std::string& month, co
                             const std::string&, const std::string&, std::string& out) {
   DigitGroup group;
   if (!centralasian::dayAccepted(day, group)) return 0;
-  std::string text = " ";
+  const std::size_t start = out.size();
+  out += " ";
   if (group.value == 1)
-    text += "pirvel";
+    out += "pirvel";
   else
-    speakInteger(day, text, false);
-  if (!centralasian::monthAccepted(month, group)) return 0;
-  text += " ";
-  text += centralasian::wordAt(kTables.months, group.value);
-  speakInteger(year, text, false);
-  text += " tsels";
-  out += text;
+    speakInteger(day, out, false);
+  if (!centralasian::monthAccepted(month, group)) {
+    out.resize(start);
+    return 0;
+  }
+  out += " ";
+  out += centralasian::wordAt(kTables.months, group.value);
+  speakInteger(year, out, false);
+  out += " tsels";
   return 1;
 }
 

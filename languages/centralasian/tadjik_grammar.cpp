@@ -94,32 +94,32 @@ const centralasian::FamilyTables& TadjikGrammar::tables() { return kTables; }
 
 void TadjikGrammar::speakGroup(DigitGroup group, std::string& out) {
   centralasian::normaliseTeen(group);
-  std::string text;
-  if (group.value == 0) text += " nol";
+  const std::size_t start = out.size();
+  if (group.value == 0) out += " nol";
   const bool rest = group.tens != 0 || group.units != 0;
   if (group.hundreds != 0) {
-    text = wordAt(kHundreds, group.hundreds / 100);
+    out.resize(start);  // the hundreds word takes the place of a zero word
+    out += wordAt(kHundreds, group.hundreds / 100);
     if (rest) {
-      centralasian::appendGlide(text);
-      text += "u";
+      centralasian::appendGlide(out, start);
+      out += "u";
     }
   }
   if (group.teen != 0) {
-    text += " ";
-    text += wordAt(kOnesAndTeens, group.teen);
+    out += " ";
+    out += wordAt(kOnesAndTeens, group.teen);
   } else if (group.tens != 0) {
-    text += " ";
-    text += wordAt(kTens, group.tens / 10);
+    out += " ";
+    out += wordAt(kTens, group.tens / 10);
     if (group.units != 0) {
-      centralasian::appendGlide(text);
-      text += "u ";
-      text += wordAt(kOnesAndTeens, group.units);
+      centralasian::appendGlide(out, start);
+      out += "u ";
+      out += wordAt(kOnesAndTeens, group.units);
     }
   } else if (group.units != 0) {
-    text += " ";
-    text += wordAt(kOnesAndTeens, group.units);
+    out += " ";
+    out += wordAt(kOnesAndTeens, group.units);
   }
-  out += text;
 }
 
 // The connective follows a scale word whenever a lower group is spoken (the
@@ -141,11 +141,10 @@ void TadjikGrammar::speakInteger(const std::string& digits, std::string& out) {
 // The suffix is said even after a number that says nothing: a date without
 // its year ends in "solium".
 void TadjikGrammar::speakOrdinal(const std::string& digits, std::string& out) {
-  std::string text;
-  speakInteger(digits, text);
-  centralasian::appendGlide(text);
-  text += "um";
-  out += text;
+  const std::size_t start = out.size();
+  speakInteger(digits, out);
+  centralasian::appendGlide(out, start);
+  out += "um";
 }
 
 // Day, month, year: "panjumi yanvari soli du hazoru hashtum".
@@ -153,15 +152,17 @@ int TadjikGrammar::speakDate(const std::string& day, const std::string& month, c
                              const std::string&, const std::string&, std::string& out) {
   DigitGroup group;
   if (!centralasian::dayAccepted(day, group)) return 0;
-  std::string text;
-  speakOrdinal(day, text);
-  text += "i";
-  if (!centralasian::monthAccepted(month, group)) return 0;
-  text += " ";
-  text += wordAt(kTables.months, group.value);
-  text += "i soli";
-  speakOrdinal(year, text);
-  out += text;
+  const std::size_t start = out.size();
+  speakOrdinal(day, out);
+  out += "i";
+  if (!centralasian::monthAccepted(month, group)) {
+    out.resize(start);
+    return 0;
+  }
+  out += " ";
+  out += wordAt(kTables.months, group.value);
+  out += "i soli";
+  speakOrdinal(year, out);
   return 1;
 }
 

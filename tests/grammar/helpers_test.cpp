@@ -82,9 +82,9 @@ TEST(LastLookupTest, AsksAgainWhenTableOrWordChanges) {
   };
   const Step steps[] = {
       {nullptr, "", 1},  // nothing is remembered before the first answer
-      {&tableA, "rub", 2},  {&tableA, "rub", 2},  {&tableB, "rub", 3},  {&tableA, "rub", 2},
-      {&tableB, "RUB", 4},  {&tableB, "RUB", 4},  {&tableA, "rub", 5},  {&tableB, "RU", 6},
-      {&tableB, "", 7},     {&tableB, "RU", 6},   {&tableB, "", 7},     {&tableB, longWord, 8},
+      {&tableA, "rub", 2},    {&tableA, "rub", 2}, {&tableB, "rub", 3}, {&tableA, "rub", 2},
+      {&tableB, "RUB", 4},    {&tableB, "RUB", 4}, {&tableA, "rub", 5}, {&tableB, "RU", 6},
+      {&tableB, "", 7},       {&tableB, "RU", 6},  {&tableB, "", 7},    {&tableB, longWord, 8},
       {&tableB, longWord, 9},
   };
   LastLookup<int> last;
