@@ -5,6 +5,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "grammar/helpers.h"
+
 namespace vela::arabic {
 namespace {
 
@@ -146,10 +148,15 @@ int groupValue(const DigitGroup& g) { return g.hundreds + g.tens + g.teen + g.un
 
 }  // namespace
 
+// An amount asks for its unit and its minor unit again and again: the last
+// two answers are kept per thread.
 const ArabicUnitRecord* findUnitRecord(std::string_view wanted) {
-  for (std::size_t i = 0; i < std::size(kUnitRecords); ++i)
-    if (wanted == kRecordNames[i].code || wanted == kRecordNames[i].singular) return &kUnitRecords[i];
-  return nullptr;
+  thread_local LastLookup<const ArabicUnitRecord*> last;
+  return last.get(kUnitRecords, wanted, [&]() -> const ArabicUnitRecord* {
+    for (std::size_t i = 0; i < std::size(kUnitRecords); ++i)
+      if (wanted == kRecordNames[i].code || wanted == kRecordNames[i].singular) return &kUnitRecords[i];
+    return nullptr;
+  });
 }
 
 int unitGender(const std::string& token) {
@@ -191,7 +198,7 @@ void speakArabicGroup(const DigitGroup& group, bool ordinal, int gender, ArabicC
   speakGroupCounting(group, ordinal, gender, grammaticalCase, findUnitRecord(token), result);
 }
 
-long long arabicNumberValue(const std::string& number) {
+long long arabicNumberValue(std::string_view number) {
   const std::size_t from = number.size() > kMaxDigits ? number.size() - kMaxDigits : 0;
   long long value = 0;
   for (std::size_t i = from; i < number.size(); ++i)
@@ -205,17 +212,17 @@ long long arabicNumberValue(const std::string& number) {
 // in the form for the whole number (" milyuun duulaar").
 void speakArabicNumber(const std::string& number, bool ordinal, int gender, ArabicCase grammaticalCase,
                        const std::string& token, std::string& result) {
-  const std::string digits = number.size() > kMaxDigits ? number.substr(number.size() - kMaxDigits) : number;
-  constexpr int kCuts[4] = {9, 6, 3, 0};
-  constexpr const char* kScaleCodes[3] = {kMilliardCode, kMillionCode, kThousandCode};
-  DigitGroup groups[4];
-  for (int i = 0; i < 4; ++i) getDigitGroup(digits, &groups[i], kCuts[i]);
+  const std::string_view digits =
+      number.size() > kMaxDigits ? std::string_view(number).substr(number.size() - kMaxDigits) : number;
+  static const ArabicUnitRecord* const kScales[3] = {
+      findUnitRecord(kMilliardCode), findUnitRecord(kMillionCode), findUnitRecord(kThousandCode)};
+  const std::array<DigitGroup, 4> groups = getDigitGroups(digits);
   const ArabicUnitRecord* noun = findUnitRecord(token);  // looked up once for the whole number
 
   for (int i = 0; i < 3; ++i) {
     const int value = groupValue(groups[i]);
     if (value == 0) continue;
-    const ArabicUnitRecord* scale = findUnitRecord(kScaleCodes[i]);
+    const ArabicUnitRecord* scale = kScales[i];
     if (value <= 2)
       result += nounForm(scale, value, grammaticalCase);
     else

@@ -39,6 +39,6 @@ void speakArabicNumber(const std::string& number, bool ordinal, int gender, Arab
 
 // The value of the last twelve characters of `number`, a non-digit counting as
 // 0: the number speakArabicNumber speaks.
-long long arabicNumberValue(const std::string& number);
+long long arabicNumberValue(std::string_view number);
 
 }  // namespace vela::arabic

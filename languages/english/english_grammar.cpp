@@ -1,5 +1,6 @@
 #include "languages/english/english_grammar.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "grammar/helpers.h"
@@ -44,10 +45,18 @@ const CurrencyPair* findCurrency(const UnitRecord* record) {
   return nullptr;
 }
 
-// A decimal text as digits, least significant first: "05" gives 5, 0.
-DigitList textToDigits(const std::string& text) {
-  DigitList digits;
-  digits.reserve(text.size());  // one allocation per list
+// A decimal text as digits, least significant first: "05" gives 5, 0. The
+// list is the thread's own and keeps its room from one request to the next;
+// it holds until the next call on the thread.
+constexpr std::size_t kListRoom = 16;  // digits of any time, date or amount part of a short text
+
+const DigitList& textToDigits(const std::string& text) {
+  thread_local DigitList digits = [] {
+    DigitList room;
+    room.reserve(kListRoom);
+    return room;
+  }();
+  digits.clear();
   for (auto c = text.rbegin(); c != text.rend(); ++c) digits.emplace_back(1, *c);
   return digits;
 }
@@ -65,11 +74,19 @@ void attachRecord(CardinalBuilder& number, const UnitRecord& record, std::string
 
 // The minor part of money: the first two fraction digits, cut not rounded, a
 // missing second digit counting as zero (.5 is fifty, .999 is ninety nine).
-DigitList minorDigits(const DigitList& fracList) {
-  if (fracList.empty()) return {};
-  const std::string& first = fracList.back();  // fracList is least significant first
-  const std::string second = fracList.size() >= 2 ? fracList[fracList.size() - 2] : "";
-  return {second, first};
+// A list of the thread's own, as above.
+const DigitList& minorDigits(const DigitList& fracList) {
+  thread_local DigitList digits = [] {
+    DigitList room;
+    room.reserve(2);
+    return room;
+  }();
+  digits.clear();
+  if (fracList.empty()) return digits;
+  // fracList is least significant first
+  digits.emplace_back(fracList.size() >= 2 ? std::string_view(fracList[fracList.size() - 2]) : "");
+  digits.emplace_back(fracList.back());
+  return digits;
 }
 
 // 0-11 are AM, 12-23 PM with 12 taken off: noon is said as zero hours PM.
@@ -179,13 +196,15 @@ void EnglishGrammar::speakNumber(const DigitList& tokenList, std::string& out) {
 // Every character gives a word and a space (an empty word for anything but a
 // digit). Zero is "nought", or "zero" in a string that opens with a quote.
 void EnglishGrammar::speakDigitString(const DigitList& tokenList, std::string& out) {
-  std::string text;
-  for (const std::string& piece : tokenList) text += piece;
-  const char* zeroWord = (!text.empty() && text[0] == '"') ? "zero" : "nought";
-  for (char c : text) {
-    if (c == '0') out += zeroWord;
-    if (c >= '1' && c <= '9') out += english::kDigitWords[c - '0'].unit;
-    out += ' ';
+  const auto first =
+      std::find_if(tokenList.begin(), tokenList.end(), [](const std::string& p) { return !p.empty(); });
+  const char* zeroWord = (first != tokenList.end() && first->front() == '"') ? "zero" : "nought";
+  for (const std::string& piece : tokenList) {
+    for (char c : piece) {
+      if (c == '0') out += zeroWord;
+      if (c >= '1' && c <= '9') out += english::kDigitWords[c - '0'].unit;
+      out += ' ';
+    }
   }
 }
 
