@@ -88,28 +88,35 @@ DigitGroup digitGroupOf(int value) {
   std::array<char, 16> text{};
   const auto written = std::to_chars(text.data(), text.data() + text.size(), value);
   DigitGroup group;
-  getDigitGroup(std::string_view(text.data(), static_cast<std::size_t>(written.ptr - text.data())), &group, 0);
+  getDigitGroup(std::string_view(text.data(), static_cast<std::size_t>(written.ptr - text.data())), &group,
+                0);
   return group;
 }
 
-// Reads the digits once, keeping the value of every prefix a cut leaves (it
-// saturates at INT_MAX, as readInt's does, and stops being read there). A text
-// with a byte that is not a digit goes the general way.
+// Reads the digits once, keeping the value of every prefix a cut leaves; the
+// value saturates at INT_MAX and is not read further, as readInt's is. Only
+// the bytes read for the value and the last twelve (the groups' own digits)
+// matter: a byte that is not a digit among them sends the text the general way.
 std::array<DigitGroup, 4> getDigitGroups(std::string_view number) {
   std::array<DigitGroup, 4> groups{};
-  for (const char c : number) {
-    if (c < '0' || c > '9') {
-      for (int k = 0; k < 4; ++k) getDigitGroup(number, &groups[k], kCuts[k]);
-      return groups;
-    }
-  }
   const std::size_t n = number.size();
+  const auto general = [&] {
+    for (int k = 0; k < 4; ++k) getDigitGroup(number, &groups[k], kCuts[k]);
+    return groups;
+  };
+  for (std::size_t i = n > 12 ? n - 12 : 0; i < n; ++i) {
+    if (number[i] < '0' || number[i] > '9') return general();
+  }
   long long value = 0;
   std::size_t read = 0;
   for (int i = 0; i < 4; ++i) {
     const auto cut = static_cast<std::size_t>(kCuts[i]);
     if (n <= cut) continue;
-    for (; read < n - cut && value <= INT_MAX; ++read) value = value * 10 + (number[read] - '0');
+    for (; read < n - cut && value <= INT_MAX; ++read) {
+      const auto digit = static_cast<unsigned>(number[read] - '0');
+      if (digit > 9) return general();
+      value = value * 10 + digit;
+    }
     groups[i].value = value > INT_MAX ? INT_MAX : static_cast<int>(value);
     fillFromDigits(number, n - cut, &groups[i]);
   }

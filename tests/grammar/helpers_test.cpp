@@ -51,7 +51,10 @@ TEST(DigitGroupTest, Table) {
 // getDigitGroups reads all four cuts at once; it must agree with getDigitGroup
 // cut by cut on every number above, digits only or not.
 TEST(DigitGroupTest, AllCutsAgreeWithOneCut) {
-  const char* extra[] = {"1", "1000", "999999999999", "2147483648000", "0001002003", "12 34", "-5"};
+  const char* extra[] = {"1", "1000", "999999999999", "2147483648000", "0001002003", "12 34", "-5", " 7",
+                         "+7",
+                         // a byte that is not a digit after the value saturates, or among the last twelve
+                         "99999999999x123456789012", "999999999999999x12345678", "1234567890123456789"};
   std::vector<std::string> numbers(std::begin(extra), std::end(extra));
   for (const auto& c : kGroups) numbers.emplace_back(c.number);
   const auto fields = [](const DigitGroup& d) {
