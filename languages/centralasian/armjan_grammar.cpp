@@ -116,8 +116,7 @@ void ArmjanGrammar::speakGroup(const DigitGroup& group, std::string& out, bool w
 
 // 1000 is mek hazar; a number of zeros says zro.
 void ArmjanGrammar::speakInteger(const std::string& digits, std::string& out) {
-  const DigitGroup g9 = groupOf(digits, 9), g6 = groupOf(digits, 6), g3 = groupOf(digits, 3),
-                   g0 = groupOf(digits, 0);
+  const auto [g9, g6, g3, g0] = getDigitGroups(digits);
   const bool b = hasDigits(g9), m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
   if (b) {
     speakGroup(g9, out, false);

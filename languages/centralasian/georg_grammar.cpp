@@ -232,10 +232,8 @@ void GeorgGrammar::speakGroup(DigitGroup group, std::string& out, bool final) {
 // A thousands group ending in 1 says only the scale word: 1000 is atasi, and so
 // are the thousands of 11 000, 21 000 and 101 000.
 void GeorgGrammar::speakInteger(const std::string& digits, std::string& out, bool final) {
-  const DigitGroup g9 = normalisedGroup(digits, 9);
-  const DigitGroup g6 = normalisedGroup(digits, 6);
-  const DigitGroup g3 = normalisedGroup(digits, 3);
-  const DigitGroup g0 = normalisedGroup(digits, 0);
+  auto [g9, g6, g3, g0] = getDigitGroups(digits);
+  for (DigitGroup* group : {&g9, &g6, &g3, &g0}) centralasian::normaliseLastTwo(*group);
   using centralasian::hasDigits;
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
   if (hasDigits(g9)) {

@@ -125,9 +125,8 @@ void TadjikGrammar::speakGroup(DigitGroup group, std::string& out) {
 // The connective follows a scale word whenever a lower group is spoken (the
 // last twelve digits decide, so a long number never overflows the test).
 void TadjikGrammar::speakInteger(const std::string& digits, std::string& out) {
-  using centralasian::groupOf, centralasian::hasDigits;
-  const DigitGroup g9 = groupOf(digits, 9), g6 = groupOf(digits, 6), g3 = groupOf(digits, 3),
-                   g0 = groupOf(digits, 0);
+  using centralasian::hasDigits;
+  const auto [g9, g6, g3, g0] = getDigitGroups(digits);
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
   if (hasDigits(g9)) appendScale(g9, " milliard", m || t || u, out);
   if (m) appendScale(g6, " million", t || u, out);
