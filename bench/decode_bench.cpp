@@ -17,6 +17,7 @@
 
 #include "grammar/cp1251.h"
 #include "grammar/factory.h"
+#include "languages/russian/family_speaker.h"
 #include "pipeline/text_decoder.h"
 #include "vela/vela.h"
 
@@ -215,6 +216,19 @@ void BM_LoadLibrary(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_LoadLibrary)->Unit(benchmark::kMicrosecond);
+
+// What a Russian-family language's first request adds once: reading every
+// three-digit group in every variant.
+void BM_GroupReadings(benchmark::State& state) {
+  std::size_t bytes = 0;
+  for (auto _ : state) {
+    const vela::GroupReadings readings{vela::FamilySpeaker(vela::kRussianLanguage)};
+    bytes = readings.textBytes();
+    benchmark::DoNotOptimize(bytes);
+  }
+  state.counters["text_bytes"] = static_cast<double>(bytes);
+}
+BENCHMARK(BM_GroupReadings)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

@@ -40,6 +40,9 @@ class GroupReadings {
     return std::string_view(bytes_.data() + starts_[at], starts_[at + 1] - starts_[at]);
   }
 
+  // The bytes the readings take (their offsets aside).
+  std::size_t textBytes() const { return bytes_.size(); }
+
   // The three digits of a group as one number, 0-999.
   static int groupDigits(const DigitGroup& group) {
     return group.hundreds + group.tens + group.teen + group.units;
