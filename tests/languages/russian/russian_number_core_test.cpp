@@ -3,6 +3,9 @@
 // suffixes, and the limits of dates that the input patterns never let through.
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "grammar/cp1251.h"
 #include "languages/russian/family_speaker.h"
 #include "russian_test_support.h"
@@ -146,6 +149,42 @@ TEST(RussianNumberCore, DateLimits) {
               c.printed);
     EXPECT_EQ(result, *c.printed == '\0' ? 1 : 0) << c.day << "." << c.month << "." << c.year;
     EXPECT_EQ(joinNames(out), c.words) << c.day << "." << c.month << "." << c.year;
+  }
+}
+
+// Numbers and amounts read from the group readings say exactly what the
+// word-by-word reading says: every group value in every position, in every
+// language, with a unit of each gender and without.
+TEST(RussianNumberCore, GroupReadingsSayWhatTheWordsSay) {
+  for (const FamilyLanguage* language : {&kRussianLanguage, &kRussianTransLanguage, &kUkrainianLanguage}) {
+    const GroupReadings readings{FamilySpeaker(*language)};
+    const FamilySpeaker fast(*language, &readings);
+    const FamilySpeaker slow(*language);
+    std::vector<std::string> units;  // a unit word of each gender
+    for (int gender : {kMasculine, kFeminine, kNeuter}) {
+      for (const UnitRow& row : language->units) {
+        if (row.gender == gender) {
+          units.emplace_back(row.form1);
+          break;
+        }
+      }
+    }
+    for (int value = 0; value < 1000; ++value) {
+      for (const std::string& digits :
+           {std::to_string(value), std::to_string(value) + "007", std::to_string(value) + "000000",
+            std::to_string(value) + "000000000", "1" + std::to_string(value + 1000).substr(1) + "001002"}) {
+        for (const std::string& unit : units) {
+          std::string a, b;
+          fast.speakCount(digits, unit, a);
+          slow.speakCount(digits, unit, b);
+          ASSERT_EQ(a, b) << digits << " " << unit;
+        }
+        std::string a, b;
+        fast.speakNumber({digits}, a);
+        slow.speakNumber({digits}, b);
+        ASSERT_EQ(a, b) << digits;
+      }
+    }
   }
 }
 
