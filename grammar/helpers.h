@@ -73,12 +73,13 @@ inline bool matchesWord(const std::string& token, const char* word) {
   return *word == '\0';
 }
 
-// The last two answers of one look-up, kept per thread. An amount asks about
-// its unit word several times (is it a unit, a currency, which row) and then
-// about its minor unit's word; each question scans a unit table, and with this
-// each word is scanned for once. The answer must depend only on `table` and
-// the word. Words longer than kMaxWord bytes are looked up every time.
-template <class Result>
+// The last `Kept` answers of one look-up, kept per thread. An amount asks
+// about its unit word several times (is it a unit, a currency, which row) and
+// then about its minor unit's word, a clock time about three units; each
+// question scans a unit table, and with this each word is scanned for once.
+// The answer must depend only on `table` and the word. Words longer than
+// kMaxWord bytes are looked up every time.
+template <class Result, std::size_t Kept = 2>
 class LastLookup {
  public:
   static constexpr std::size_t kMaxWord = 23;
@@ -87,10 +88,10 @@ class LastLookup {
   Result get(const void* table, std::string_view word, Lookup lookup) {
     if (word.size() > kMaxWord) return lookup();
     for (const Entry& entry : entries_) {
-      if (entry.filled && entry.table == table && entry.word() == word) return entry.result;
+      if (entry.filled && entry.table == table && entry.holds(word)) return entry.result;
     }
-    Entry& entry = entries_[older_];  // the two are replaced in turn
-    older_ ^= 1;
+    Entry& entry = entries_[oldest_];  // the entries are replaced in turn
+    oldest_ = (oldest_ + 1) % Kept;
     entry.result = lookup();
     entry.filled = true;
     entry.table = table;
@@ -106,10 +107,16 @@ class LastLookup {
     std::size_t size = 0;
     std::array<char, kMaxWord> bytes{};
     Result result{};
-    std::string_view word() const { return std::string_view(bytes.data(), size); }
+    // Compared in place: the words are short, a library call would cost more.
+    bool holds(std::string_view word) const {
+      if (word.size() != size) return false;
+      for (std::size_t i = 0; i < size; ++i)
+        if (bytes[i] != word[i]) return false;
+      return true;
+    }
   };
-  std::array<Entry, 2> entries_{};
-  std::size_t older_ = 0;
+  std::array<Entry, Kept> entries_{};
+  std::size_t oldest_ = 0;
 };
 
 // Lower-case of one Windows-1251 byte under that mapping.

@@ -28,9 +28,10 @@ constexpr NoneAmount kNoneAmounts[] = {
     {"num", "no numbers"},
 };
 
-// The first record whose code matches the suffix (case-insensitively), or null.
+// The first record whose code matches the suffix (case-insensitively), or
+// null. A clock time with seconds asks for three units.
 const UnitRecord* findUnit(const std::string& unit) {
-  thread_local LastLookup<const UnitRecord*> last;
+  thread_local LastLookup<const UnitRecord*, 3> last;
   return last.get(english::kUnits, unit, [&]() -> const UnitRecord* {
     for (const UnitRecord& record : english::kUnits)
       if (matchesWord(unit, record.code)) return &record;
