@@ -1,7 +1,11 @@
 #!/usr/bin/env python3
 """Turns vela_bench's JSON output (with --benchmark_repetitions) into the
-Markdown tables of bench/README.md: medians of CPU time per request."""
+Markdown tables of bench/README.md: CPU time per request, the median of the
+repetitions. Given several runs, each cell is the median of the runs' medians
+and the key figures also show the lowest and highest run: on a shared virtual
+machine one run can be a third slower than the next."""
 import json
+import statistics
 import sys
 
 
@@ -21,9 +25,18 @@ def ns(b):
 
 
 def main():
-    context, m = medians(sys.argv[1])
+    runs = [medians(path) for path in sys.argv[1:]]
+    names = list(runs[0][1])
+
+    def cell(name):
+        return statistics.median(ns(m[name]) for _, m in runs if name in m)
+
+    def spread(name):
+        values = sorted(ns(m[name]) for _, m in runs if name in m)
+        return f" (runs: {values[0]:.0f}-{values[-1]:.0f})" if len(values) > 1 else ""
+
     grammars, kinds = [], []
-    for name in m:
+    for name in names:
         if name.startswith("Token/") and name.count("/") == 2:
             _, g, k = name.split("/")
             if g not in grammars:
@@ -33,15 +46,23 @@ def main():
     print("| token kind | " + " | ".join(grammars) + " |")
     print("|---|" + "---|" * len(grammars))
     for k in kinds:
-        cells = [f"{ns(m[f'Token/{g}/{k}']):.0f}" for g in grammars]
+        cells = [f"{cell(f'Token/{g}/{k}'):.0f}" for g in grammars]
         print(f"| {k} | " + " | ".join(cells) + " |")
-    print(f"\nunknown tag (\"xx\", \"15\"): {ns(m['Token/unknown-tag']):.0f} ns\n")
-    for name, b in m.items():
+    print(f"\nunknown tag (\"xx\", \"15\"): {cell('Token/unknown-tag'):.0f} ns\n")
+    for name in names:
         if not name.startswith("Token/"):
-            items = b.get("items_per_second")
+            b = runs[0][1][name]
+            items = statistics.median(m[name].get("items_per_second", 0) for _, m in runs if name in m)
             extra = f", {items / 1e3:.0f}k requests/s" if items else ""
-            print(f"- {name}: {ns(b):.0f} ns CPU, {b['real_time']:.0f} {b['time_unit']} real{extra}")
-    print(f"\nload average at start: {context.get('load_avg')}")
+            counters = "".join(f", {k} {v:.0f}" for k, v in b.items() if k == "text_bytes")
+            print(f"- {name}: {cell(name):.0f} ns CPU{spread(name)}{extra}{counters}")
+    for ours, icu in (("BM_Vela_RussianCardinal", "BM_Icu_RussianCardinal"),
+                      ("BM_Vela_EnglishCount", "BM_Icu_EnglishCardinal")):
+        ratios = sorted(ns(m[icu]) / ns(m[ours]) for _, m in runs if ours in m and icu in m)
+        if ratios:
+            print(f"- ICU / vela, {ours}: {statistics.median(ratios):.1f}x "
+                  f"(each run's own ratio: {', '.join(f'{r:.1f}' for r in ratios)})")
+    print(f"\nload average at the start of each run: {[c.get('load_avg') for c, _ in runs]}")
 
 
 if __name__ == "__main__":
