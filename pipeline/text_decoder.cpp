@@ -34,7 +34,8 @@ void TextDecoder::reset(std::string_view tag, std::string_view requestText, unsi
   trimInput(requestText);
   text.assign(requestText);
   output.clear();
-  errorText.clear();  // the groups in `match` are set by the classifier before any handler reads them
+  errorText.clear();
+  // `match` is left as it is: the classifier sets it before any handler reads it.
   grammar = &grammarFor(tag, mode, errorText);
   failed = errorText.empty() ? 0 : 1;
 }
