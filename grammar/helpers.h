@@ -62,7 +62,7 @@ inline constexpr std::array<unsigned char, 256> kLowerCp1251 = makeLowerTable();
 // and the other capital/small pairs of the code page) and compares it with the
 // lower-case table word. Independent of the process locale. Inline: the unit
 // lookups of the languages call it for every row of their tables.
-inline bool matchesWord(const std::string& token, const char* word) {
+inline bool matchesWord(std::string_view token, const char* word) {
   if (word == nullptr || token.size() >= 256) return false;
   // One walk over both: the first differing byte, or the end of the table
   // word, decides without measuring the word first.

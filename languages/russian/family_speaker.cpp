@@ -112,7 +112,7 @@ void FamilySpeaker::appendUnitForm(const DigitGroup& group, std::string& out, in
   appendWord(row->form5, out);
 }
 
-int FamilySpeaker::findUnit(const std::string& suffix) const {
+int FamilySpeaker::findUnit(std::string_view suffix) const {
   thread_local LastLookup<int> last;
   return last.get(lang_.units.data(), suffix, [&] {
     for (std::size_t i = 0; i < lang_.units.size(); ++i) {
@@ -302,8 +302,9 @@ void FamilySpeaker::speakMoney(const std::string& intDigits, const std::string& 
 // "12.5руб" is fifty kopecks, "12.05руб" five, "12.567руб" fifty-six.
 void FamilySpeaker::speakMinorUnits(const std::string& fracDigits, const std::string& unit,
                                     std::string& out) const {
-  if (fracDigits.empty() || readInt(fracDigits) == 0) return;
-  const DigitGroup group = digitGroupOf(hundredthsOf(fracDigits));
+  const int hundredths = hundredthsOf(fracDigits);  // zero exactly when the digits read as zero
+  if (fracDigits.empty() || hundredths == 0) return;
+  const DigitGroup group = digitGroupOf(hundredths);
   const char* word = findMinorCurrency(unit);
   if (word == nullptr) return;
   const int row = findUnit(word);

@@ -39,7 +39,7 @@ class FamilySpeaker {
   void speakGroup(const DigitGroup& group, GroupReadings::Variant variant, std::string& out) const;
 
   // First unit row whose key or form 1 is the suffix (case-insensitive); -1.
-  int findUnit(const std::string& suffix) const;
+  int findUnit(std::string_view suffix) const;
   // Gender of that row; -1.
   int getGender(const std::string& suffix) const;
   // 1-based row of the symbol table; 0 when absent.
