@@ -61,7 +61,8 @@ void runRules(TextDecoder& decoder) {
     (decoder.*handler)();
     ++passes;
     int next = classifyToken(decoder.output, rule, decoder.match);
-    if (next == rule && passes == kMaxPassesPerRule) next = classifyToken(decoder.output, rule + 1, decoder.match);
+    if (next == rule && passes == kMaxPassesPerRule)
+      next = classifyToken(decoder.output, rule + 1, decoder.match);
     if (next < 0) return;  // the reading stays in output
     if (next != rule) passes = 0;
     // The next handler writes output, so its text moves to work; a short text
