@@ -9,7 +9,6 @@
 #include <string_view>
 
 #include "grammar/helpers.h"
-#include "languages/russian/family_language.h"
 
 namespace vela {
 
