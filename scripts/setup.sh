@@ -12,6 +12,8 @@ packages=(
   libicu-dev
   locales
   libsndfile1-dev python3 python3-pytest espeak-ng
+  build-essential debhelper dh-python lintian help2man man-db
+  python3-setuptools python3-pip
 )
 
 missing=()

@@ -7,6 +7,7 @@ namespace vela::cli {
 extern const Command kSpeak;    // speak.cpp
 extern const Command kPrompts;  // prompts.cpp
 extern const Command kSay;      // say.cpp
+extern const Command kUnits;    // units.cpp
 
 namespace {
 
@@ -14,6 +15,7 @@ constexpr const Command* kCommands[] = {
     &kSpeak,
     &kPrompts,
     &kSay,
+    &kUnits,
 };
 
 }  // namespace

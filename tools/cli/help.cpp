@@ -1,36 +1,62 @@
-// `vela --help`: the usage lines and paragraphs of every command, between the
-// options they share and the exit status.
+// `vela --help`, laid out the way help2man reads it (the man page is made from
+// it): the usage lines, what the tool does, the options, one paragraph per
+// command, the tags, the exit status and examples.
 #include "tools/cli/command.h"
 
 namespace vela::cli {
 namespace {
 
+constexpr const char* kAbout =
+    "Turns short texts (numbers, amounts with a unit or currency word, dates,\n"
+    "clock times, quoted spans, keypad strings, single characters) into the\n"
+    "names of the pre-recorded prompts that speak them.\n";
+
 constexpr const char* kOptions =
-    "  -l TAG   language tag (default ru): ru, en, uk, ro, kk, ka, hy, ar, ...\n"
-    "           exact and case-sensitive, as the library takes it\n"
-    "  -t       Russian with Latin-transliterated prompt names (mode 1)\n"
-    "  --raw    texts and names are Windows-1251 bytes, passed through as they\n"
-    "           are (default: UTF-8, converted to and from Windows-1251)\n"
-    "  -h, --help  this text\n";
+    "Options:\n"
+    "  -l TAG         language tag (default ru), exact and case-sensitive; see Tags\n"
+    "  -t             Russian with Latin-transliterated prompt names (mode 1)\n"
+    "  --raw          texts and names are Windows-1251 bytes, passed through as they\n"
+    "                 are (default: UTF-8, converted to and from Windows-1251)\n"
+    "  -h, --help     print this help and exit\n"
+    "  --version      print the library's version and exit\n";
+
+// One row per grammar: its tags, then its language.
+constexpr const char* kTags =
+    "Tags:\n"
+    "  ru rus RUSSIAN                         Russian (with -t: Latin names)\n"
+    "  uk ukr UKRAINIAN UKRANIAN UKRAINIEN UKRAINE\n"
+    "                                         Ukrainian\n"
+    "  en eng ENGLISH                         English; also every unknown tag\n"
+    "  ro rom rum ROMANIAN mo mol MOLDOVA     Romanian\n"
+    "  kk kaz KAZAH KAZAKH KAZAKHSTAN         Kazakh\n"
+    "  uz uzb UZBEK OUSZBEK UZBEKISTAN        Uzbek\n"
+    "  tg tgk TADJIK TAJIK TAJIKISTAN         Tajik\n"
+    "  ka geo GEORGIA GEORGIAN                Georgian\n"
+    "  hy ARMJAN                              Armenian\n"
+    "  ar ARAB                                Arabic\n";
 
 constexpr const char* kEnd =
-    "Diagnostics of the grammars go to standard error. Exit status: 0 when every\n"
-    "text was taken; 1 when a text cannot be written in Windows-1251 (its line is\n"
-    "left empty), the tag is unknown (the texts are then spoken in English), a\n"
-    "recording is missing or does not fit; 2 on a usage error.\n"
+    "Exit status:\n"
+    "  0   every text was taken\n"
+    "  1   a text cannot be written in Windows-1251 (its line is left empty), the\n"
+    "      tag is unknown (the texts are then spoken in English), a recording is\n"
+    "      missing or does not fit\n"
+    "  2   a usage error: one line on standard error names it\n"
     "\n"
-    "examples:\n"
-    "  vela -l ru 12.50руб        двенадцать рублей пятьдесят копеек\n"
-    "  vela -l en 1.05usd         one dollar and five cents\n"
+    "Examples:\n"
+    "  vela -l ru 12.50руб\n"
+    "      prints: двенадцать рублей пятьдесят копеек\n"
+    "  vela -l en 1.05usd\n"
+    "      prints: one dollar and five cents\n"
     "  printf '21руб\\n7:05\\n' | vela -l ru\n"
+    "      one answer line per input line\n"
     "  vela prompts -l ru --check voice/ru\n"
-    "  vela say -l ru --voice voice/ru -o x.wav 12.50руб\n";
+    "      the recordings voice/ru still lacks\n"
+    "  vela say -l ru --voice voice/ru -o x.wav 12.50руб\n"
+    "      the answer's recordings, one after another, in x.wav\n";
 
-}  // namespace
-
-std::string helpText() {
-  std::string text;
-  const char* lead = "usage: vela ";
+void appendUsage(std::string& text) {
+  const char* lead = "Usage: vela ";
   for (const Command* command : commands()) {
     // A command's usage may run over several lines; each starts with "vela".
     std::string_view synopsis = command->synopsis;
@@ -38,16 +64,23 @@ std::string helpText() {
       const std::size_t end = synopsis.find('\n') + 1;
       text.append(lead).append(synopsis.substr(0, end));
       synopsis.remove_prefix(end);
-      lead = "       vela ";
+      lead = "  or:  vela ";
     }
   }
-  bool first = true;
+  text.append(lead).append("--help | --version\n");
+}
+
+}  // namespace
+
+std::string helpText() {
+  std::string text;
+  appendUsage(text);
+  text.append(kAbout).append("\n").append(findCommand("")->help);
+  text.append("\n").append(kOptions).append("\nCommands:\n");
   for (const Command* command : commands()) {
-    text.append("\n").append(command->help);
-    if (first) text.append("\n").append(kOptions);
-    first = false;
+    if (!command->name.empty()) text.append(command->help);
   }
-  return text.append("\n").append(kEnd);
+  return text.append("\n").append(kTags).append("\n").append(kEnd);
 }
 
 }  // namespace vela::cli

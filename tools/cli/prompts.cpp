@@ -75,12 +75,14 @@ int runPrompts(Arguments& args, std::FILE* out) {
 extern const Command kPrompts = {
     "prompts",
     "prompts [-l TAG] [-t] [--raw] [--files] [--check DIR]\n",
-    "prompts: prints every prompt name the language can answer with, one a line,\n"
-    "sorted by byte. With --check DIR, prints only those without a recording\n"
-    "DIR/NAME.wav and exits with 1 when any is missing. NAME is the prompt name\n"
-    "in UTF-8, with the bytes / \\ : * ? \" < > | %, control bytes and a leading\n"
-    "dot written as %XX (hexadecimal of the Windows-1251 byte). --files adds a\n"
-    "tab and that file name to each line.\n",
+    "  prompts        print every prompt name the language can answer with, one a\n"
+    "                 line, sorted by byte\n"
+    "    --files      add a tab and the recording's file name, NAME.wav, to each\n"
+    "                 line: NAME is the prompt name in UTF-8, with the bytes\n"
+    "                 / \\ : * ? \" < > | %, control bytes and a leading dot written\n"
+    "                 as %XX (hexadecimal of the Windows-1251 byte)\n"
+    "    --check DIR  print only the prompts without a recording DIR/NAME.wav;\n"
+    "                 exit with 1 when any is missing\n",
     runPrompts,
 };
 

@@ -77,9 +77,11 @@ int runSay(Arguments& args, std::FILE*) {
 extern const Command kSay = {
     "say",
     "say [-l TAG] [-t] --voice DIR -o OUT.wav [--pause MS] TEXT...\n",
-    "say: writes the recordings of the TEXTs' prompts, one after another, to\n"
-    "OUT.wav, with MS milliseconds of silence between two (default 150). All\n"
-    "recordings must share sample rate and channel count.\n",
+    "  say            write the recordings of the TEXTs' prompts, one after another,\n"
+    "                 to one WAV file; all must share sample rate and channel count\n"
+    "    --voice DIR  the folder of recordings, named as prompts --files shows\n"
+    "    -o OUT.wav   the file to write\n"
+    "    --pause MS   milliseconds of silence between two recordings (default 150)\n",
     runSay,
 };
 

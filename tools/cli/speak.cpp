@@ -89,10 +89,12 @@ int runSpeak(Arguments& args, std::FILE* out) {
 extern const Command kSpeak = {
     "",
     "[-l TAG] [-t] [--raw] [TEXT...]\n",
-    "Prints, for each TEXT, one line: the names of the prompts that speak it,\n"
+    "For each TEXT, prints one line: the names of the prompts that speak it,\n"
     "separated by single spaces. With no TEXT, reads one text per line from\n"
     "standard input (a UTF-8 byte-order mark at its start is skipped) and\n"
-    "answers one line each. A text that produces no prompt comes back as it is.\n",
+    "answers one line each. A text that produces no prompt comes back as it is.\n"
+    "Diagnostics go to standard error. A TEXT that starts with \"-\" and a letter,\n"
+    "or a first TEXT of letters only, goes after \"--\".\n",
     runSpeak,
 };
 
