@@ -1,9 +1,10 @@
 // vela: speaks texts from the command line, one line of prompt names per text;
 // lists the prompts a language needs; plays an answer from recordings. The
 // subcommands are the table in tools/cli/commands.cpp.
-#include <unistd.h>
+#include "vela/vela.h"
 
 #include <cstdio>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -24,14 +25,14 @@ bool looksLikeCommand(std::string_view arg) {
   return arg[0] != '-';
 }
 
-// -h or --help anywhere before "--".
-bool asksForHelp(int argc, char** argv) {
+// The first of -h, --help and --version before "--", or "".
+std::string_view askedFor(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     const std::string_view arg = argv[i];
-    if (arg == "--") return false;
-    if (arg == "-h" || arg == "--help") return true;
+    if (arg == "--") break;
+    if (arg == "-h" || arg == "--help" || arg == "--version") return arg;
   }
-  return false;
+  return "";
 }
 
 // The command that argv selects, and the index of its first argument.
@@ -50,24 +51,19 @@ const Command& selectCommand(int argc, char** argv, int& first) {
 }
 
 int run(int argc, char** argv) {
-  if (asksForHelp(argc, argv)) {
+  const std::string_view asked = askedFor(argc, argv);
+  if (asked == "--version") {
+    std::printf("vela %s\n", vela_version());
+    return 0;
+  }
+  if (!asked.empty()) {
     std::fputs(vela::cli::helpText().c_str(), stdout);
     return 0;
   }
   int first = 1;
   const Command& command = selectCommand(argc, argv, first);
   vela::cli::Arguments args(argc, argv, first);
-
-  // The grammars print their complaints on standard output: point that at
-  // standard error and keep the real standard output for the results.
-  std::FILE* out = fdopen(dup(STDOUT_FILENO), "w");
-  if (out == nullptr || dup2(STDERR_FILENO, STDOUT_FILENO) < 0) {
-    std::perror("vela");
-    return 2;
-  }
-  const int status = command.run(args, out);
-  std::fclose(out);
-  return status;
+  return command.run(args, stdout);
 }
 
 }  // namespace
@@ -78,5 +74,8 @@ int main(int argc, char** argv) {
   } catch (const vela::cli::UsageError& error) {
     std::fprintf(stderr, "vela: %s; see vela --help\n", error.message.c_str());
     return 2;
+  } catch (const std::bad_alloc&) {
+    std::fprintf(stderr, "vela: out of memory\n");
+    return 1;
   }
 }

@@ -56,14 +56,13 @@ int runSay(Arguments& args, std::FILE*) {
   if (!checkTag(language)) return 1;
   std::vector<std::string> names;
   for (const std::string& text : options.texts) {
-    const std::optional<std::string> request = requestText(language, text);
+    const std::string where = "\"" + text + "\"";
+    const std::optional<std::string> request = requestText(language, where, text);
     if (!request) return 1;
-    const auto spoken = tools::speakNames(language.tag, language.mode, *request);
-    if (!spoken || spoken->empty()) {
-      std::fprintf(stderr, "vela: \"%s\" gives no prompt in \"%s\"\n", text.c_str(), language.tag.c_str());
-      return 1;
-    }
-    names.insert(names.end(), spoken->begin(), spoken->end());
+    const Reading reading(language, *request);
+    reading.complain(language, where);
+    if (reading.names()[0] == '\0') return 1;
+    tools::splitNames(reading.names(), names);
   }
   if (auto error = tools::renderPrompts(names, options.voiceDir, options.outPath, options.pauseMs)) {
     std::fprintf(stderr, "vela: %s\n", error->c_str());

@@ -2,10 +2,8 @@
 #include <cstdlib>
 #include <vector>
 
-#include "pipeline/text_decoder.h"
 #include "tools/cli/text.h"
 #include "tools/encoding.h"
-#include "tools/inventory.h"
 
 namespace vela::cli {
 namespace {
@@ -25,63 +23,53 @@ SpeakOptions parseSpeak(Arguments& args) {
   return options;
 }
 
-// The names separated by single spaces, without spaces at either end.
-std::string joinNames(const std::string& names) {
-  std::vector<std::string> pieces;
-  tools::splitNames(names, pieces);
-  std::string line;
-  for (const std::string& piece : pieces) line += (line.empty() ? "" : " ") + piece;
-  return line;
-}
-
-// Speaks one text and prints its line; false when the text could not be taken.
-bool speakOne(const LanguageOptions& options, std::FILE* out, const std::string& text) {
-  const std::optional<std::string> request = requestText(options, text);
+// Speaks one text and prints its line (empty when nothing is spoken); its
+// complaints go to standard error, after `where`. True when the whole text
+// was spoken.
+bool speakOne(const LanguageOptions& options, std::FILE* out, const std::string& where,
+              const std::string& text) {
+  const std::optional<std::string> request = requestText(options, where, text);
   if (!request) {
     std::fputc('\n', out);
     return false;
   }
-  char* buffer = nullptr;
-  if (decodeText(options.tag.c_str(), request->c_str(), &buffer, options.mode) != 0) {
-    std::fprintf(stderr, "vela: out of memory\n");
+  // A blank line of a batch has nothing to speak, and nothing left unsaid.
+  if (request->find_first_not_of(" \t") == std::string::npos) {
     std::fputc('\n', out);
-    return false;
+    return true;
   }
-  std::string names = joinNames(buffer);
-  std::free(buffer);
-  if (!options.raw) names = tools::convert(names, "UTF-8", "WINDOWS-1251").value_or(names);
-  std::fprintf(out, "%s\n", names.c_str());
+  const Reading reading(options, *request);
+  std::fprintf(out, "%s\n", shownName(options, reading.names()).c_str());
   std::fflush(out);
-  return true;
+  reading.complain(options, where);
+  return reading.complete();
 }
 
 // One text per line of standard input.
-int speakLines(const LanguageOptions& options, std::FILE* out) {
-  int status = 0;
+bool speakLines(const LanguageOptions& options, std::FILE* out) {
+  bool complete = true;
   char* line = nullptr;
   std::size_t capacity = 0;
   ssize_t length;
-  bool first = true;
-  while ((length = getline(&line, &capacity, stdin)) >= 0) {
+  for (int number = 1; (length = getline(&line, &capacity, stdin)) >= 0; ++number) {
     std::string text(line, static_cast<std::size_t>(length));
     // Files saved by Windows editors begin with a byte-order mark.
-    if (first && !options.raw) tools::skipByteOrderMark(text);
-    first = false;
+    if (number == 1 && !options.raw) tools::skipByteOrderMark(text);
     while (!text.empty() && (text.back() == '\n' || text.back() == '\r')) text.pop_back();
-    if (!speakOne(options, out, text)) status = 1;
+    if (!speakOne(options, out, "line " + std::to_string(number), text)) complete = false;
   }
   std::free(line);
-  return status;
+  return complete;
 }
 
 int runSpeak(Arguments& args, std::FILE* out) {
   const SpeakOptions options = parseSpeak(args);
-  int status = checkTag(options.language) ? 0 : 1;
-  if (options.texts.empty()) return speakLines(options.language, out) != 0 ? 1 : status;
+  bool complete = checkTag(options.language);
+  if (options.texts.empty()) return speakLines(options.language, out) && complete ? 0 : 1;
   for (const std::string& text : options.texts) {
-    if (!speakOne(options.language, out, text)) status = 1;
+    if (!speakOne(options.language, out, "\"" + text + "\"", text)) complete = false;
   }
-  return status;
+  return complete ? 0 : 1;
 }
 
 }  // namespace
@@ -90,11 +78,12 @@ extern const Command kSpeak = {
     "",
     "[-l TAG] [-t] [--raw] [TEXT...]\n",
     "For each TEXT, prints one line: the names of the prompts that speak it,\n"
-    "separated by single spaces. With no TEXT, reads one text per line from\n"
-    "standard input (a UTF-8 byte-order mark at its start is skipped) and\n"
-    "answers one line each. A text that produces no prompt comes back as it is.\n"
-    "Diagnostics go to standard error. A TEXT that starts with \"-\" and a letter,\n"
-    "or a first TEXT of letters only, goes after \"--\".\n",
+    "separated by single spaces, or an empty line when nothing in it can be\n"
+    "spoken. With no TEXT, reads one text per line from standard input (a UTF-8\n"
+    "byte-order mark at its start is skipped) and answers one line each.\n"
+    "Complaints about a text go to standard error as \"vela: WHERE: ...\", WHERE\n"
+    "being the text in quotes or its line number. A TEXT that starts with \"-\"\n"
+    "and a letter, or a first TEXT of letters only, goes after \"--\".\n",
     runSpeak,
 };
 

@@ -6,7 +6,6 @@
 
 #include "grammar/factory.h"
 #include "tools/cli/text.h"
-#include "tools/inventory.h"
 
 namespace vela::cli {
 namespace {
@@ -31,14 +30,11 @@ struct UnitReading {
   }
 };
 
-// The prompt names of `text`, separated by single spaces; "" when nothing in
-// it is spoken.
+// The prompt names of a text fully spoken, separated by single spaces; ""
+// when not all of it is spoken.
 std::string readingOf(const LanguageOptions& options, const std::string& text) {
-  const auto names = tools::speakNames(options.tag, options.mode, text);
-  std::string line;
-  if (!names) return line;
-  for (const std::string& name : *names) line += (line.empty() ? "" : " ") + name;
-  return line == text ? std::string() : line;
+  const Reading reading(options, text);
+  return reading.status() == VELA_SPOKEN ? reading.names() : "";
 }
 
 // The reading of `key` after a number, or nullopt when the grammar reads the
@@ -46,7 +42,7 @@ std::string readingOf(const LanguageOptions& options, const std::string& text) {
 std::optional<UnitReading> readUnit(const LanguageOptions& options, const std::string& key) {
   UnitReading unit;
   unit.one = readingOf(options, "1" + key);
-  if (unit.one.empty() || unit.one == readingOf(options, "1\x01")) return std::nullopt;
+  if (unit.one.empty()) return std::nullopt;
   unit.zero = readingOf(options, "0" + key);
   const std::string withMinor = readingOf(options, "1.01" + key);
   if (withMinor.size() > unit.one.size() + 1 && withMinor.starts_with(unit.one + " ")) {
@@ -89,15 +85,12 @@ int runUnits(Arguments& args, std::FILE* out) {
   // Words that read alike share a line, in the order of their first word.
   std::map<UnitReading, std::vector<std::string>> words;
   std::vector<UnitReading> order;
-  {
-    const tools::QuietGrammars quiet;
-    for (const std::string& key : keys) {
-      const std::optional<UnitReading> unit = readUnit(options, key);
-      if (!unit) continue;
-      auto& spellings = words[*unit];
-      if (spellings.empty()) order.push_back(*unit);
-      if (std::find(spellings.begin(), spellings.end(), key) == spellings.end()) spellings.push_back(key);
-    }
+  for (const std::string& key : keys) {
+    const std::optional<UnitReading> unit = readUnit(options, key);
+    if (!unit) continue;
+    auto& spellings = words[*unit];
+    if (spellings.empty()) order.push_back(*unit);
+    if (std::find(spellings.begin(), spellings.end(), key) == spellings.end()) spellings.push_back(key);
   }
   std::vector<std::vector<std::string>> rows = {
       {"words", "1 reads as", "1.01 adds", "0 reads as", "example"}};
