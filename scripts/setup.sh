@@ -13,7 +13,7 @@ packages=(
   locales
   libsndfile1-dev python3 python3-pytest espeak-ng
   build-essential debhelper dh-python lintian help2man man-db
-  python3-setuptools python3-pip
+  python3-setuptools python3-pip python3-wheel
 )
 
 missing=()
