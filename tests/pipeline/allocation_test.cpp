@@ -69,6 +69,18 @@ Count countRequest(const char* tag, const std::string& text, std::string& answer
   return {newCalls - news, mallocCalls - mallocs};
 }
 
+// Counts the allocations of one vela_read call: its two strings are its mallocs.
+Count countReading(const char* tag, const std::string& text) {
+  vela_reading reading;
+  const long news = newCalls, mallocs = mallocCalls;
+  counting = true;
+  const int status = vela_read(tag, text.c_str(), 0, &reading);
+  counting = false;
+  EXPECT_EQ(status, 0);
+  vela_reading_free(&reading);
+  return {newCalls - news, mallocCalls - mallocs};
+}
+
 struct Request {
   const char* tag;
   std::string text;
@@ -146,6 +158,7 @@ TEST(AllocationTest, OnlyTheAnswerIsAllocated) {
   countRequest("en", "1:02:03", answer);  // and English's first time and money its digit lists
   countRequest("en", "1.05usd", answer);
   std::printf("%s", "");  // and standard output its own, as a grammar's complaint would
+  countReading("ru", "25:61");  // and the thread's complaint buffer its own
   for (const auto& table : {std::span<const Request>(kRequests), std::span<const Request>(kUnknownTags)}) {
     for (const Request& r : table) {
       ASSERT_LE(r.text.size(), 64u);
@@ -153,6 +166,9 @@ TEST(AllocationTest, OnlyTheAnswerIsAllocated) {
       EXPECT_LE(answer.size(), 1024u) << r.tag << " " << r.text;
       EXPECT_EQ(count.news, 0) << r.tag << " " << r.text;
       EXPECT_EQ(count.mallocs, VELA_COUNT_MALLOC) << r.tag << " " << r.text;
+      const Count reading = countReading(r.tag, r.text);
+      EXPECT_EQ(reading.news, 0) << "vela_read " << r.tag << " " << r.text;
+      EXPECT_EQ(reading.mallocs, 2 * VELA_COUNT_MALLOC) << "vela_read " << r.tag << " " << r.text;
     }
   }
 }

@@ -11,6 +11,7 @@
 
 #include "grammar/cp1251.h"
 #include "pipeline/text_decoder.h"
+#include "vela/vela.h"
 
 namespace vela {
 namespace {
@@ -30,13 +31,19 @@ const std::string kTexts[] = {
     "12.50руб"_cp, "-5,5kb",   "1.05.2015", "1.05.2015(I)", "1.05",    "1.05(I)",
     "1234567",     "0-05-120", "\"12#*\"",  "7:05",         "7:05:30", "\"125:30\"",
     "\"1:02:03\"", "1,5",      "x",         "ab",           "x.wav",   "3min",
+    "25:61",  // a complaint
 };
 
+// The stated answer, then the reading's status, names and complaints.
 std::string decode(const char* tag, const std::string& text, unsigned char mode) {
   char* out = nullptr;
+  vela_reading reading;
   if (decodeText(tag, text.c_str(), &out, mode) != 0 || out == nullptr) return "<failed>";
   std::string answer = out;
   std::free(out);
+  if (vela_read(tag, text.c_str(), mode != 0 ? VELA_LATIN : 0, &reading) != 0) return "<failed>";
+  answer += "|" + std::to_string(reading.status) + "|" + reading.names + "|" + reading.diagnostics;
+  vela_reading_free(&reading);
   return answer;
 }
 
