@@ -84,7 +84,9 @@ done
 
 # ---- export and import tables ----
 expected_exports=$(printf '%s\n' decodeBuffer decodeReleaseBuffer DecodeBufferASCII \
-  Java_com_talvik_ostra_macrosynthesis_vela_VelaMacroSynthesis_getSpaceDelimitedFilesWindows1251Encoded | sort)
+  vela_read vela_reading_free vela_version \
+  Java_com_talvik_ostra_macrosynthesis_vela_VelaMacroSynthesis_getSpaceDelimitedFilesWindows1251Encoded \
+  Java_com_talvik_ostra_macrosynthesis_vela_Vela_read0 Java_com_talvik_ostra_macrosynthesis_vela_Vela_version0 | sort)
 # Windows' own DLLs; anything else (libstdc++-6, libgcc_s_*, libwinpthread-1) must be linked in.
 system_dlls='^(kernel32|msvcrt|user32|advapi32|ntdll|ws2_32)\.dll$'
 for arch in i686 x86_64; do

@@ -1,21 +1,20 @@
 /*
  * A host that loads vela at run time, finds every export by its plain name and
- * runs a table of requests through each of them (the Java native entry with a
- * small fake JNI function table), writing one answer line per request. The
+ * runs a table of requests through the C and C++ ones, writing one answer line
+ * per request (the Java entries are found, not called: they need a JVM). The
  * same source builds on Linux (dlopen) and for Windows (LoadLibrary):
  * scripts/windows.sh compares the Windows DLL's answers with the Linux build's.
  *
  *   host LIBRARY REQUESTS ANSWERS
  *
  * REQUESTS: one request a line, "entry<TAB>tag<TAB>text"; '#' starts a comment.
- * entry: c (decodeBuffer), c-noout (decodeBuffer with a null out), jni and
- * jni-t (the Java entry, transliterated off and on), ascii (DecodeBufferASCII,
- * through ascii_call.cpp: its arguments are C++ objects). In tag and text:
- * \xHH is a byte, a field of just \N a null pointer (a null array for the Java
- * entry, an empty string for DecodeBufferASCII), and \R<count>:<piece> the
+ * entry: c (decodeBuffer), c-noout (decodeBuffer with a null out), read,
+ * read-latin and read-strict (vela_read with no option, VELA_LATIN and
+ * VELA_STRICT_TAG), ascii (DecodeBufferASCII, through ascii_call.cpp: its
+ * arguments are C++ objects). In tag and text: \xHH is a byte, a field of
+ * just \N a null pointer (an empty string for DecodeBufferASCII), and \R<count>:<piece> the
  * piece repeated. The library prints its own diagnostics on standard output.
  */
-#include <jni.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
@@ -34,11 +33,21 @@ static void* findExport(Library lib, const char* name) { return dlsym(lib, name)
 
 typedef int (*DecodeBufferFn)(const char*, const char*, char**);
 typedef void (*ReleaseFn)(void*);
-typedef jbyteArray(JNICALL* JavaEntryFn)(JNIEnv*, jclass, jbyteArray, jbyteArray, jboolean);
+typedef struct {
+  char* names;
+  char* diagnostics;
+  int status;
+  int unknownTag;
+} Reading; /* vela_reading, declared here as a host that has only the DLL would */
+typedef int (*ReadFn)(const char*, const char*, unsigned, Reading*);
+typedef void (*ReadingFreeFn)(Reading*);
+typedef const char* (*VersionFn)(void);
 
 static DecodeBufferFn decodeBuffer;
 static ReleaseFn decodeReleaseBuffer;
-static JavaEntryFn javaEntry;
+static ReadFn velaRead;
+static ReadingFreeFn velaReadingFree;
+static VersionFn velaVersion;
 static void* asciiEntry;
 static FILE* answers;
 
@@ -55,63 +64,6 @@ void velaHostPut(const char* p, size_t n) {
     } else {
       fputc(c, answers);
     }
-  }
-}
-
-/* ---- the fake JNI table: byte arrays are plain heap blocks ---- */
-
-typedef struct {
-  jsize length;
-  jbyte* elements;
-} FakeArray;
-
-static int elementsOut; /* GetByteArrayElements not yet released */
-static int contractBroken;
-
-static jsize JNICALL getArrayLength(JNIEnv* env, jarray array) {
-  (void)env;
-  return ((FakeArray*)array)->length;
-}
-
-static jbyte* JNICALL getByteArrayElements(JNIEnv* env, jbyteArray array, jboolean* isCopy) {
-  (void)env;
-  if (isCopy != NULL) *isCopy = JNI_FALSE;
-  ++elementsOut;
-  return ((FakeArray*)array)->elements;
-}
-
-static void JNICALL releaseByteArrayElements(JNIEnv* env, jbyteArray array, jbyte* elements, jint mode) {
-  (void)env;
-  if (elements != ((FakeArray*)array)->elements || mode != 0) contractBroken = 1;
-  --elementsOut;
-}
-
-static FakeArray* newArray(const char* bytes, jsize length) {
-  FakeArray* a = malloc(sizeof *a);
-  if (a == NULL || (a->elements = malloc(length > 0 ? (size_t)length : 1)) == NULL) abort();
-  a->length = length;
-  if (bytes != NULL && length > 0) memcpy(a->elements, bytes, (size_t)length);
-  return a;
-}
-
-static void freeArray(FakeArray* a) {
-  if (a != NULL) free(a->elements);
-  free(a);
-}
-
-static jbyteArray JNICALL newByteArray(JNIEnv* env, jsize length) {
-  (void)env;
-  return (jbyteArray)newArray(NULL, length);
-}
-
-static void JNICALL setByteArrayRegion(JNIEnv* env, jbyteArray array, jsize start, jsize length,
-                                       const jbyte* bytes) {
-  (void)env;
-  FakeArray* a = (FakeArray*)array;
-  if (start < 0 || length < 0 || start + length > a->length) {
-    contractBroken = 1;
-  } else if (length > 0) {
-    memcpy(a->elements + start, bytes, (size_t)length);
   }
 }
 
@@ -166,29 +118,17 @@ static void runDecodeBuffer(const Field* tag, const Field* text, int withOut) {
   }
 }
 
-static void runJavaEntry(const Field* tag, const Field* text, jboolean transliterated) {
-  struct JNINativeInterface_ table;
-  memset(&table, 0, sizeof table);
-  table.GetArrayLength = getArrayLength;
-  table.GetByteArrayElements = getByteArrayElements;
-  table.ReleaseByteArrayElements = releaseByteArrayElements;
-  table.NewByteArray = newByteArray;
-  table.SetByteArrayRegion = setByteArrayRegion;
-  JNIEnv env = &table;
-
-  FakeArray* textArray = text->isNull ? NULL : newArray(text->data, (jsize)text->size);
-  FakeArray* tagArray = tag->isNull ? NULL : newArray(tag->data, (jsize)tag->size);
-  FakeArray* result =
-      (FakeArray*)javaEntry(&env, NULL, (jbyteArray)textArray, (jbyteArray)tagArray, transliterated);
-  if (result == NULL) {
-    fputs("null", answers);
-  } else {
-    fprintf(answers, "len=%ld ", (long)result->length);
-    velaHostPut((const char*)result->elements, (size_t)result->length);
+static void runRead(const Field* tag, const Field* text, unsigned options) {
+  Reading r;
+  int rc = velaRead(tag->isNull ? NULL : tag->data, text->isNull ? NULL : text->data, options, &r);
+  fprintf(answers, "rc=%d", rc);
+  if (rc == 0) {
+    fprintf(answers, " status=%d unknown=%d names=", r.status, r.unknownTag);
+    velaHostPut(r.names, strlen(r.names));
+    fputs(" diagnostics=", answers);
+    velaHostPut(r.diagnostics, strlen(r.diagnostics));
   }
-  freeArray(textArray);
-  freeArray(tagArray);
-  freeArray(result);
+  velaReadingFree(&r);
 }
 
 /* Runs one request line and writes its answer line; returns 0 when the line is not a request. */
@@ -201,21 +141,21 @@ static int runRequest(const char* line) {
   parseField(tab2 + 1, strcspn(tab2 + 1, "\r\n"), &text);
   const int entryLength = (int)(tab1 - line);
   fprintf(answers, "%.*s\t", entryLength, line);
-  elementsOut = contractBroken = 0;
   if (strncmp(line, "c\t", 2) == 0) {
     runDecodeBuffer(&tag, &text, 1);
   } else if (strncmp(line, "c-noout\t", 8) == 0) {
     runDecodeBuffer(&tag, &text, 0);
-  } else if (strncmp(line, "jni\t", 4) == 0) {
-    runJavaEntry(&tag, &text, JNI_FALSE);
-  } else if (strncmp(line, "jni-t\t", 6) == 0) {
-    runJavaEntry(&tag, &text, JNI_TRUE);
+  } else if (strncmp(line, "read\t", 5) == 0) {
+    runRead(&tag, &text, 0);
+  } else if (strncmp(line, "read-latin\t", 11) == 0) {
+    runRead(&tag, &text, 1);
+  } else if (strncmp(line, "read-strict\t", 12) == 0) {
+    runRead(&tag, &text, 2);
   } else if (strncmp(line, "ascii\t", 6) == 0) {
     velaHostCallAscii(asciiEntry, tag.data, tag.size, text.data, text.size);
   } else {
     fputs("unknown entry", answers);
   }
-  if (elementsOut != 0 || contractBroken) fputs(" (JNI elements not released as taken)", answers);
   fputc('\n', answers);
   free(tag.data);
   free(text.data);
@@ -228,12 +168,20 @@ static int loadExports(const char* path) {
     fprintf(stderr, "host: cannot load %s\n", path);
     return 0;
   }
-  const char* names[] = {"decodeBuffer", "decodeReleaseBuffer", "DecodeBufferASCII",
+  const char* names[] = {"decodeBuffer",
+                         "decodeReleaseBuffer",
+                         "DecodeBufferASCII",
+                         "vela_read",
+                         "vela_reading_free",
+                         "vela_version",
                          "Java_com_talvik_ostra_macrosynthesis_vela_VelaMacroSynthesis_"
-                         "getSpaceDelimitedFilesWindows1251Encoded"};
-  void* found[4];
+                         "getSpaceDelimitedFilesWindows1251Encoded",
+                         "Java_com_talvik_ostra_macrosynthesis_vela_Vela_read0",
+                         "Java_com_talvik_ostra_macrosynthesis_vela_Vela_version0"};
+  enum { kExports = sizeof names / sizeof names[0] };
+  void* found[kExports];
   int ok = 1;
-  for (int i = 0; i < 4; ++i) {
+  for (int i = 0; i < kExports; ++i) {
     if ((found[i] = findExport(lib, names[i])) == NULL) {
       fprintf(stderr, "host: no export named %s\n", names[i]);
       ok = 0;
@@ -242,7 +190,9 @@ static int loadExports(const char* path) {
   decodeBuffer = (DecodeBufferFn)found[0];
   decodeReleaseBuffer = (ReleaseFn)found[1];
   asciiEntry = found[2];
-  javaEntry = (JavaEntryFn)found[3];
+  velaRead = (ReadFn)found[3];
+  velaReadingFree = (ReadingFreeFn)found[4];
+  velaVersion = (VersionFn)found[5];
   return ok;
 }
 
@@ -253,6 +203,8 @@ int main(int argc, char** argv) {
   }
   if (!loadExports(argv[1])) return 1;
   decodeReleaseBuffer(NULL); /* harmless */
+  velaReadingFree(NULL);
+  fprintf(stderr, "host: vela %s\n", velaVersion());
   FILE* requests = fopen(argv[2], "rb");
   answers = fopen(argv[3], "wb");
   if (requests == NULL || answers == NULL) {
