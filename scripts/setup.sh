@@ -13,6 +13,8 @@ packages=(
   locales
   libsndfile1-dev python3 python3-pytest espeak-ng
   cloc
+  build-essential debhelper dh-python lintian help2man man-db
+  python3-setuptools python3-pip
 )
 
 missing=()
