@@ -1,3 +1,4 @@
+import com.talvik.ostra.macrosynthesis.vela.Vela;
 import com.talvik.ostra.macrosynthesis.vela.VelaMacroSynthesis;
 import java.util.List;
 
@@ -8,5 +9,9 @@ public class Host {
     String latin = VelaMacroSynthesis.getSpaceDelimitedFiles("ru", "21rub", true); // transliterated
     System.out.println(names);
     System.out.println(latin);
+
+    // The reading with its status and complaints, kept off standard output.
+    Vela.Reading reading = Vela.read("ru", "25:00", false);
+    System.out.println(reading.status() + " " + reading.names() + " " + reading.diagnostics());
   }
 }

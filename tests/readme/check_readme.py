@@ -48,8 +48,8 @@ class Checker:
         program = os.path.join(self.work, os.path.basename(path) + ".run")
         include, library = os.path.join(self.source, "include"), ["-L" + self.build, "-lvela"]
         if path.endswith(".c"):
-            run(["cc", "-std=c11", "-Wall", "-Werror", "-I" + include, source, *library, "-o", program])
-            return run([program], env=self.env)
+            run(["cc", "-std=c11", "-Wall", "-Werror", "-I" + include, source, *library, "-ldl", "-o", program])
+            return run([program, os.path.join(self.build, "libvela.so")], env=self.env)
         if path.endswith(".cpp"):
             run(["c++", "-std=c++17", "-Wall", "-Werror", "-I" + include, source, *library, "-o", program])
             return run([program], env=self.env)
