@@ -13,7 +13,8 @@ rm -rf "$work"
 mkdir -p "$work"
 
 cmake --install "$build" --prefix "$prefix" >"$work/install.log"
-for f in "$libdir/libvela.so" include/vela/vela.h bin/vela share/java/vela.jar \
+for f in "$libdir/libvela.so" "$libdir/libvela.so.0" include/vela/vela.h bin/vela share/java/vela.jar \
+  share/man/man1/vela.1 share/vela/demo-voice.sh \
   "$libdir/pkgconfig/vela.pc" "$libdir/cmake/vela/velaConfig.cmake" \
   lib/python3/dist-packages/vela/__init__.py; do
   [ -e "$prefix/$f" ] || { echo "FAILED: $f not installed"; exit 1; }
