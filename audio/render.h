@@ -47,7 +47,7 @@ struct Error {
 template <typename T>
 class Checked {
  public:
-  Checked(T value) : value_(std::move(value)) {}  // NOLINT(google-explicit-constructor)
+  Checked(T value) : value_(std::move(value)) {}      // NOLINT(google-explicit-constructor)
   Checked(Error error) : error_(std::move(error)) {}  // NOLINT(google-explicit-constructor)
   explicit operator bool() const { return value_.has_value(); }
   const T& operator*() const { return *value_; }
@@ -84,7 +84,7 @@ struct Voice {
 // ".wav" (anything libsndfile reads: PCM, float, mu-law, A-law at any rate and
 // channel count), ".flac", then the headerless telephony files ".sln16" (16 kHz
 // signed 16-bit little-endian), ".sln" (8 kHz), ".ulaw" and ".alaw" (8 kHz).
-inline constexpr std::array<std::string_view, 6> kRecordingExtensions = {".wav",  ".flac", ".sln16",
+inline constexpr std::array<std::string_view, 6> kRecordingExtensions = {".wav", ".flac", ".sln16",
                                                                          ".sln", ".ulaw", ".alaw"};
 
 // The file name of a prompt without its extension: the name in UTF-8, with each
@@ -159,16 +159,16 @@ std::string_view contentType(const OutputFormat& format);
 
 struct RenderOptions {
   OutputFormat format;
-  int pauseMs = 150;              // silence between two recordings, at most kMaxPauseMs
-  std::optional<double> trimDb;   // cut what is quieter than this (dBFS, e.g. -45) at both ends of each
+  int pauseMs = 150;             // silence between two recordings, at most kMaxPauseMs
+  std::optional<double> trimDb;  // cut what is quieter than this (dBFS, e.g. -45) at both ends of each
 };
 
 // An answer rendered into memory.
 struct Rendered {
-  std::string bytes;           // the whole file, or empty when errors is not
-  OutputFormat format;         // with the rate resolved
-  std::string fingerprint;     // as fingerprintPrompts gives it
-  std::vector<Error> errors;   // one per prompt that could not be read; then nothing is rendered
+  std::string bytes;          // the whole file, or empty when errors is not
+  OutputFormat format;        // with the rate resolved
+  std::string fingerprint;    // as fingerprintPrompts gives it
+  std::vector<Error> errors;  // one per prompt that could not be read; then nothing is rendered
   bool ok() const { return errors.empty(); }
 };
 
@@ -178,7 +178,8 @@ struct Rendered {
 // (libsoxr, high quality; channels mixed down). Every recording is read first:
 // when any is missing or is not a recording we can play, `errors` names each
 // and no bytes are produced. An empty list of names is an error too.
-Rendered renderPrompts(const Voice& voice, const std::vector<std::string>& names, const RenderOptions& options);
+Rendered renderPrompts(const Voice& voice, const std::vector<std::string>& names,
+                       const RenderOptions& options);
 
 // A fingerprint of the answer renderPrompts would give, cheap enough to answer
 // a conditional request without rendering: 16 hexadecimal digits over the
