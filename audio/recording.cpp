@@ -3,6 +3,7 @@
 #include <sndfile.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -66,19 +67,28 @@ std::optional<std::string> outOfBounds(const SF_INFO& info) {
   if (info.channels < 1 || info.channels > kMaxChannels) return std::to_string(info.channels) + " channels";
   if (info.frames > static_cast<sf_count_t>(info.samplerate) * kMaxRecordingSeconds)
     return "longer than " + std::to_string(kMaxRecordingSeconds) + " s";
+  if (info.frames * info.channels > kMaxRecordingSamples)
+    return std::to_string(info.frames * info.channels) + " samples";
   return std::nullopt;
 }
 
-// Decodes every frame; non-finite float samples become silence.
+// Decodes every frame; non-finite float samples become silence. Read in
+// blocks, so a header that lies about the length sizes nothing.
 Checked<Sound> decode(SNDFILE* file, const SF_INFO& info, const std::string& path) {
   Sound sound;
   sound.info = RecordingInfo{path, info.samplerate, info.channels, info.frames, info.format};
-  sound.samples.resize(static_cast<std::size_t>(info.frames) * static_cast<std::size_t>(info.channels));
-  const sf_count_t got = sf_readf_float(file, sound.samples.data(), info.frames);
-  if (got != info.frames) {
-    return fail(
-        Fault::truncated, path,
-        "the data ends at frame " + std::to_string(got < 0 ? 0 : got) + " of " + std::to_string(info.frames));
+  const auto channels = static_cast<std::size_t>(info.channels);
+  constexpr sf_count_t kBlock = 1 << 16;
+  sf_count_t done = 0;
+  while (done < info.frames) {
+    const sf_count_t want = std::min(kBlock, info.frames - done);
+    sound.samples.resize(static_cast<std::size_t>(done + want) * channels);
+    const sf_count_t got = sf_readf_float(file, sound.samples.data() + static_cast<std::size_t>(done) * channels, want);
+    done += std::max<sf_count_t>(got, 0);
+    if (got < want) break;
+  }
+  if (done != info.frames) {
+    return fail(Fault::truncated, path, "the data ends at frame " + std::to_string(done) + " of " + std::to_string(info.frames));
   }
   for (float& s : sound.samples) {
     if (!std::isfinite(s)) s = 0.0f;

@@ -69,6 +69,7 @@ inline constexpr int kMinRate = 1000;
 inline constexpr int kMaxRate = 384000;
 inline constexpr int kMaxChannels = 16;
 inline constexpr int kMaxRecordingSeconds = 600;
+inline constexpr long long kMaxRecordingSamples = 64LL << 20;  // frames x channels
 inline constexpr int kMaxAnswerSeconds = 3600;
 inline constexpr int kMaxPauseMs = 60000;
 
