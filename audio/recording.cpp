@@ -83,12 +83,14 @@ Checked<Sound> decode(SNDFILE* file, const SF_INFO& info, const std::string& pat
   while (done < info.frames) {
     const sf_count_t want = std::min(kBlock, info.frames - done);
     sound.samples.resize(static_cast<std::size_t>(done + want) * channels);
-    const sf_count_t got = sf_readf_float(file, sound.samples.data() + static_cast<std::size_t>(done) * channels, want);
+    const sf_count_t got =
+        sf_readf_float(file, sound.samples.data() + static_cast<std::size_t>(done) * channels, want);
     done += std::max<sf_count_t>(got, 0);
     if (got < want) break;
   }
   if (done != info.frames) {
-    return fail(Fault::truncated, path, "the data ends at frame " + std::to_string(done) + " of " + std::to_string(info.frames));
+    return fail(Fault::truncated, path,
+                "the data ends at frame " + std::to_string(done) + " of " + std::to_string(info.frames));
   }
   for (float& s : sound.samples) {
     if (!std::isfinite(s)) s = 0.0f;

@@ -41,7 +41,8 @@ vela::audio::RenderOptions optionsFrom(uint8_t choice) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (size < 2) return 0;
-  const std::string_view extension = vela::audio::kRecordingExtensions[data[0] % vela::audio::kRecordingExtensions.size()];
+  const std::string_view extension =
+      vela::audio::kRecordingExtensions[data[0] % vela::audio::kRecordingExtensions.size()];
   const vela::audio::RenderOptions options = optionsFrom(data[1]);
   const std::string path = scratchFolder() + "/x" + std::string(extension);
   {

@@ -11,7 +11,6 @@
 #include "pipeline/text_decoder.h"
 #include "tools/encoding.h"
 #include "tools/inventory.h"
-#include "tools/render.h"
 
 namespace vela::tools {
 namespace {
@@ -125,30 +124,6 @@ int listPrompts(const Options& options, std::FILE* promptOut) {
     if (!lines.empty()) status = 1;
   }
   return status;
-}
-
-int sayTexts(const Options& options) {
-  if (options.voiceDir.empty() || options.outPath.empty() || options.texts.empty()) {
-    std::fprintf(stderr, "vela say: needs --voice DIR, -o OUT.wav and at least one TEXT\n");
-    return 2;
-  }
-  if (!checkTag(options)) return 1;
-  std::vector<std::string> names;
-  for (const std::string& text : options.texts) {
-    const std::optional<std::string> request = requestText(options, text);
-    if (!request) return 1;
-    const auto spoken = speakNames(options.tag, options.mode, *request);
-    if (!spoken || spoken->empty()) {
-      std::fprintf(stderr, "vela: \"%s\" gives no prompt in \"%s\"\n", text.c_str(), options.tag.c_str());
-      return 1;
-    }
-    names.insert(names.end(), spoken->begin(), spoken->end());
-  }
-  if (auto error = renderPrompts(names, options.voiceDir, options.outPath, options.pauseMs)) {
-    std::fprintf(stderr, "vela: %s\n", error->c_str());
-    return 1;
-  }
-  return 0;
 }
 
 }  // namespace vela::tools

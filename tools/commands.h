@@ -24,7 +24,6 @@ struct Options {
 // grammars' complaints go to standard error).
 int speakTexts(const Options& options, std::FILE* promptOut);
 int listPrompts(const Options& options, std::FILE* promptOut);
-int sayTexts(const Options& options);
 
 // False (after a message) when the tag is unknown: the texts are then English.
 bool checkTag(const Options& options);

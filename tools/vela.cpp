@@ -5,8 +5,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "tools/commands.h"
+#include "tools/voice_commands.h"
 
 namespace {
 
@@ -120,8 +122,33 @@ vela::tools::Options parseOptions(int argc, char** argv) {
 
 }  // namespace
 
+// The voice commands parse their own options (tools/voice_commands.h).
+int voiceMain(int argc, char** argv, std::FILE* promptOut) {
+  const std::string command = argc > 1 ? argv[1] : "";
+  std::vector<std::string> args(argv + 2, argv + argc);
+  if (command == "say") return vela::tools::sayCommand(args, promptOut);
+  if (command == "voice") return vela::tools::voiceCommand(args, promptOut);
+  for (const std::string& arg : args) {
+    if (arg == "--check") return vela::tools::promptsCheckCommand(args, promptOut);
+    if (arg == "--script") return vela::tools::promptsScriptCommand(args, promptOut);
+  }
+  return -1;
+}
+
+bool isVoiceCommand(int argc, char** argv) {
+  if (argc < 2) return false;
+  const std::string command = argv[1];
+  if (command == "say" || command == "voice") return true;
+  if (command != "prompts") return false;
+  for (int i = 2; i < argc; ++i) {
+    if (std::string(argv[i]) == "--check" || std::string(argv[i]) == "--script") return true;
+  }
+  return false;
+}
+
 int main(int argc, char** argv) {
-  const vela::tools::Options options = parseOptions(argc, argv);
+  const bool voice = isVoiceCommand(argc, argv);
+  const vela::tools::Options options = voice ? vela::tools::Options{} : parseOptions(argc, argv);
 
   // The grammars print their complaints on standard output: point that at
   // standard error and keep the real standard output for the prompt names.
@@ -131,10 +158,10 @@ int main(int argc, char** argv) {
     return 2;
   }
   int status;
-  if (options.command == "prompts") {
+  if (voice) {
+    status = voiceMain(argc, argv, promptOut);
+  } else if (options.command == "prompts") {
     status = vela::tools::listPrompts(options, promptOut);
-  } else if (options.command == "say") {
-    status = vela::tools::sayTexts(options);
   } else {
     status = vela::tools::speakTexts(options, promptOut);
   }
