@@ -273,8 +273,9 @@ std::set<std::string> promptInventory(const boost::shared_ptr<IGrammar>& grammar
 
 namespace {
 
+// A marked date is written with "(I)" after it: 1.05(I).
 std::string dateText(const DateInput& d) {
-  return d.day + "." + d.month + (d.year.empty() ? "" : "." + d.year);
+  return d.day + "." + d.month + (d.year.empty() ? "" : "." + d.year) + (d.marked ? "(I)" : "");
 }
 
 std::string timeText(const TimeInput& t) {
@@ -306,9 +307,7 @@ void forEachReading(const std::string& tag, unsigned char mode,
       visit(text, slots.amount(a.intDigits, a.fracDigits, unit, a.negative));
     }
   }
-  for (const DateInput& d : dateInputs()) {
-    if (!d.marked) visit(dateText(d), slots.date(d));
-  }
+  for (const DateInput& d : dateInputs()) visit(dateText(d), slots.date(d));
   for (const TimeInput& t : clockInputs()) visit(timeText(t), slots.clock(t));
   for (const TimeInput& t : durationInputs()) visit('"' + timeText(t) + '"', slots.duration(t));
   for (const std::string& keys : keypadStrings()) visit('"' + keys + '"', slots.digitString(keys));

@@ -11,24 +11,11 @@ namespace vela::tools {
 namespace {
 
 constexpr std::size_t kExamples = 2;
-constexpr std::size_t kCandidates = 6;  // per prompt, the shortest answers, checked in turn
 
 struct Example {
   std::string text;
   std::string answer;
 };
-
-// A candidate is kept while it is among the shortest answers seen.
-void offer(std::vector<Example>& kept, const std::string& text, const std::string& answer) {
-  const auto longer = [](const Example& a, const Example& b) { return a.answer.size() < b.answer.size(); };
-  if (kept.size() == kCandidates && answer.size() >= kept.back().answer.size()) return;
-  for (const Example& e : kept) {
-    if (e.answer == answer) return;
-  }
-  if (kept.size() == kCandidates) kept.pop_back();
-  kept.push_back({text, answer});
-  std::stable_sort(kept.begin(), kept.end(), longer);
-}
 
 std::string joined(const std::vector<std::string>& names) {
   std::string line;
@@ -36,25 +23,51 @@ std::string joined(const std::vector<std::string>& names) {
   return line;
 }
 
-// The examples of each prompt whose text, sent as a request, says the prompt.
-std::map<std::string, std::vector<Example>> examples(const VoiceOptions& options) {
-  std::map<std::string, std::vector<Example>> candidates;
-  std::vector<std::string> names;
-  forEachReading(options.tag, options.mode, [&](const std::string& text, const std::string& answer) {
-    names.clear();
-    splitNames(answer, names);
-    for (const std::string& name : names) offer(candidates[name], text, answer);
-  });
-  std::map<std::string, std::vector<Example>> chosen;
-  for (auto& [name, list] : candidates) {
-    for (const Example& e : list) {
-      if (chosen[name].size() == kExamples) break;
-      const auto spoken = speakNames(options.tag, options.mode, e.text);
-      if (spoken && std::find(spoken->begin(), spoken->end(), name) != spoken->end())
-        chosen[name].push_back({e.text, joined(*spoken)});
+// Keeps, for each prompt, the examples with the shortest answers. A text is
+// kept only when, sent as a request, it does say the prompt (the enumeration
+// calls the grammar directly, and a request may be read otherwise).
+class ExampleFinder {
+ public:
+  explicit ExampleFinder(const VoiceOptions& options) : options_(options) {}
+
+  void offer(const std::string& text, const std::string& answer) {
+    names_.clear();
+    splitNames(answer, names_);
+    for (const std::string& name : names_) {
+      std::vector<Example>& kept = byName_[name];
+      if (kept.size() == kExamples && answer.size() >= kept.back().answer.size()) continue;
+      const std::vector<std::string>& spoken = spokenNames(text);
+      if (std::find(spoken.begin(), spoken.end(), name) == spoken.end()) continue;
+      Example example{text, joined(spoken)};
+      if (std::any_of(kept.begin(), kept.end(), [&](const Example& e) { return e.answer == example.answer; }))
+        continue;
+      if (kept.size() == kExamples) kept.pop_back();
+      kept.push_back(std::move(example));
+      std::stable_sort(kept.begin(), kept.end(),
+                       [](const Example& a, const Example& b) { return a.answer.size() < b.answer.size(); });
     }
   }
-  return chosen;
+  const std::map<std::string, std::vector<Example>>& examples() const { return byName_; }
+
+ private:
+  const std::vector<std::string>& spokenNames(const std::string& text) {
+    auto [it, added] = spoken_.try_emplace(text);
+    if (added)
+      it->second = speakNames(options_.tag, options_.mode, text).value_or(std::vector<std::string>{});
+    return it->second;
+  }
+
+  const VoiceOptions& options_;
+  std::vector<std::string> names_;
+  std::map<std::string, std::vector<std::string>> spoken_;
+  std::map<std::string, std::vector<Example>> byName_;
+};
+
+std::map<std::string, std::vector<Example>> examples(const VoiceOptions& options) {
+  ExampleFinder finder(options);
+  forEachReading(options.tag, options.mode,
+                 [&](const std::string& text, const std::string& answer) { finder.offer(text, answer); });
+  return finder.examples();
 }
 
 std::string html(const std::string& text) {
