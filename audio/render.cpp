@@ -58,13 +58,12 @@ std::vector<float> withChannels(const Sound& sound, int channels) {
   return out;
 }
 
+// A recording quieter than the threshold throughout is kept whole: trimming
+// never turns a prompt into nothing.
 void trim(std::vector<float>& samples, int channels, double db) {
   const auto c = static_cast<std::size_t>(channels);
   const auto lead = static_cast<std::size_t>(leadingSilentFrames(samples, channels, db));
-  if (lead * c == samples.size()) {
-    samples.clear();
-    return;
-  }
+  if (lead * c == samples.size()) return;
   const auto tail = static_cast<std::size_t>(trailingSilentFrames(samples, channels, db));
   samples.erase(samples.end() - static_cast<std::ptrdiff_t>(tail * c), samples.end());
   samples.erase(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(lead * c));
