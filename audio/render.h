@@ -161,7 +161,8 @@ std::string_view contentType(const OutputFormat& format);
 struct RenderOptions {
   OutputFormat format;
   int pauseMs = 150;             // silence between two recordings, at most kMaxPauseMs
-  std::optional<double> trimDb;  // cut what is quieter than this (dBFS, e.g. -45) at both ends of each
+  std::optional<double> trimDb;  // cut what is quieter than this (dBFS, e.g. -45) at both ends of
+                                 // each recording; one quieter throughout is kept whole
 };
 
 // An answer rendered into memory.
