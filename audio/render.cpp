@@ -84,11 +84,17 @@ Checked<std::vector<float>> resample(const std::vector<float>& in, int channels,
   return out;
 }
 
-// The recordings converted to the output's rate and channels, trimmed if asked.
+// The recordings converted to the output's rate and channels, trimmed if
+// asked, and kept within full scale: resampling may overshoot it, and
+// libsndfile's mu-law and A-law encoders index a table with the sample.
 Checked<std::vector<float>> convert(const Sound& sound, const RenderOptions& options, int rate) {
   std::vector<float> samples = withChannels(sound, options.format.channels);
   if (options.trimDb) trim(samples, options.format.channels, *options.trimDb);
-  return resample(samples, options.format.channels, sound.info.rate, rate);
+  Checked<std::vector<float>> converted = resample(samples, options.format.channels, sound.info.rate, rate);
+  if (converted) {
+    for (float& s : *converted) s = std::clamp(s, -1.0f, 1.0f);
+  }
+  return converted;
 }
 
 // 64-bit FNV-1a: fingerprints for caches, not for security.
