@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "analysis/rules.h"
+#include "grammar/complaints.h"
 #include "pipeline/text_decoder.h"
 
 namespace vela {
@@ -26,7 +27,9 @@ bool TextDecoder::onNegativeAmount() {
   fracList_.clear();
   splitDigitGroups(digits, intList_);
   splitDigitGroups(fraction, fracList_);
-  grammar->speakAmount(intList_, fracList_, digits, fraction, group(3), output);
+  // An unknown unit (-1) or a fraction the unit does not take (-2) leaves
+  // part of the text unsaid, and the sign then stands without its amount.
+  if (grammar->speakAmount(intList_, fracList_, digits, fraction, group(3), output) < 0) leaveUnsaid();
   minus_.clear();
   grammar->appendMinus(minus_);
   output.insert(0, minus_);
@@ -42,7 +45,7 @@ bool TextDecoder::onAmount() {
   splitDigitGroups(digits, intList_);
   splitDigitGroups(fraction, fracList_);
   if (grammar->speakSpecialAmount(digits, unit, output)) return true;
-  grammar->speakAmount(intList_, fracList_, digits, fraction, unit, output);
+  if (grammar->speakAmount(intList_, fracList_, digits, fraction, unit, output) < 0) leaveUnsaid();
   return true;
 }
 

@@ -41,7 +41,7 @@ constexpr int kMaxPassesPerRule = 16;
 
 }  // namespace
 
-void runRules(TextDecoder& decoder) {
+int runRules(TextDecoder& decoder) {
   std::string& work = decoder.work;
   const std::string& text = decoder.text;
   // One scan of the text finds the first rule that takes it whole. After a
@@ -51,8 +51,9 @@ void runRules(TextDecoder& decoder) {
   int rule = text.find(".wav") != std::string::npos ? -1 : classifyToken(text, 0, decoder.match);
   if (rule < 0) {
     decoder.output.assign(text);
-    return;
+    return -1;
   }
+  const int first = rule;
   int passes = 0;
   for (;;) {
     decoder.output.clear();
@@ -63,7 +64,7 @@ void runRules(TextDecoder& decoder) {
     int next = classifyToken(decoder.output, rule, decoder.match);
     if (next == rule && passes == kMaxPassesPerRule)
       next = classifyToken(decoder.output, rule + 1, decoder.match);
-    if (next < 0) return;  // the reading stays in output
+    if (next < 0) return first;  // the reading stays in output
     if (next != rule) passes = 0;
     // The next handler writes output, so its text moves to work; a short text
     // moves its bytes, so its groups are found again there.

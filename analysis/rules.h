@@ -24,8 +24,9 @@ extern const DecodeRule decodeRules[kDecodeRuleCount];
 // Speaks decoder.text: a text containing ".wav" passes through; otherwise the
 // first rule that takes the whole text replaces it with its handler's prompt
 // names, and the later rules are tried on that result. A text no rule covers
-// is left as it is. The result is left in decoder.output.
-void runRules(TextDecoder& decoder);
+// is left as it is. The result is left in decoder.output. Returns the first
+// rule that took the text, or -1 when none did (".wav" included).
+int runRules(TextDecoder& decoder);
 
 // Appends the digits of `digits` to `list`, least significant first, one per
 // string; appends nothing for an empty string, one of more than nine bytes, or

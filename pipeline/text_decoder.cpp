@@ -82,16 +82,20 @@ char* copyToMallocBuffer(const char* bytes, std::size_t length) {
 
 }  // namespace
 
-int decodeText(const char* languageTag, const char* text, char** out, unsigned char mode) {
-  if (out == nullptr) return -1;
-  *out = nullptr;
-  const std::string_view callerText = text != nullptr ? text : "";
-  // One decoder per thread, reset for each request: its buffers stay warm.
+TextDecoder& threadDecoder() {
   thread_local TextDecoder decoder = [] {
     TextDecoder warm;
     warm.reserveBuffers();
     return warm;
   }();
+  return decoder;
+}
+
+int decodeText(const char* languageTag, const char* text, char** out, unsigned char mode) {
+  if (out == nullptr) return -1;
+  *out = nullptr;
+  const std::string_view callerText = text != nullptr ? text : "";
+  TextDecoder& decoder = threadDecoder();
   decoder.reset(languageTag != nullptr ? languageTag : "", callerText, mode);
   runRules(decoder);
   // Nothing spoken: the caller gets its own text back, untrimmed.

@@ -78,6 +78,10 @@ int trimInput(std::string_view& s);
 // Turns every run of spaces into one space; returns 1.
 int collapseSpaces(std::string& s);
 
+// The calling thread's decoder, its buffers reserved: every request on a
+// thread reuses it, so its buffers stay warm.
+TextDecoder& threadDecoder();
+
 // Runs one request: the prompt names of `text` in a malloc'ed, zero-terminated
 // buffer stored in *out (the caller's own text when nothing was spoken).
 // Returns 0, or -2 when the buffer cannot be allocated (*out is then null).

@@ -1,7 +1,7 @@
 // Arabic dates, clock times and durations.
-#include <cstdio>
 #include <string>
 
+#include "grammar/complaints.h"
 #include "grammar/helpers.h"
 #include "languages/arabic/arab_grammar.h"
 #include "languages/arabic/arab_number.h"
@@ -91,14 +91,14 @@ int ArabGrammar::speakDate(const std::string& day, const std::string& month, con
                            const std::string&, const std::string&, std::string& out) {
   const int dayValue = lastGroupValue(day);
   if (dayValue >= 32) {
-    std::printf(" incorrect day %d \r\n", dayValue);
+    complain(" incorrect day %d \r\n", dayValue);
     return 0;
   }
   speakArabicNumber(day, true, arabic::kMasculine, ArabicCase::kOblique, "", out);
   out += arabic::kOf;
   const int monthValue = lastGroupValue(month);
   if (monthValue >= 13) {
-    std::printf(" incorrect month %d \r\n", monthValue);
+    complain(" incorrect month %d \r\n", monthValue);
     return 0;
   }
   out += arabic::kMonths[monthValue];
@@ -115,11 +115,11 @@ void ArabGrammar::speakClockTime(const std::string& hours, const std::string& mi
   int h = readInt(hours);
   const int m = readInt(minutes);
   if (h < 0 || h > 24) {
-    std::printf("wrong time (hours) %s\r\n", hours.c_str());
+    complain("wrong time (hours) %s\r\n", hours.c_str());
     return;
   }
   if (m < 0 || m > 59) {
-    std::printf("wrong time (minutes) %s\r\n", minutes.c_str());
+    complain("wrong time (minutes) %s\r\n", minutes.c_str());
     return;
   }
   out += arabic::kTheHour;

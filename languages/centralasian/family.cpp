@@ -1,6 +1,6 @@
 #include "languages/centralasian/family.h"
 
-#include <cstdio>
+#include "grammar/complaints.h"
 
 namespace vela::centralasian {
 
@@ -182,21 +182,21 @@ void appendGlide(std::string& text, std::size_t start) {
 bool hoursAccepted(const std::string& hours, DigitGroup& group) {
   getDigitGroup(hours, &group, 0);
   if (group.value < 25) return true;
-  std::printf("wrong time (hours) %s\r\n", hours.c_str());
+  complain("wrong time (hours) %s\r\n", hours.c_str());
   return false;
 }
 
 bool dayAccepted(const std::string& day, DigitGroup& group) {
   getDigitGroup(day, &group, 0);
   if (group.value < 32) return true;
-  std::printf(" incorrect day %d \r\n", group.value);
+  complain(" incorrect day %d \r\n", group.value);
   return false;
 }
 
 bool monthAccepted(const std::string& month, DigitGroup& group) {
   getDigitGroup(month, &group, 0);
   if (group.value < 13) return true;
-  std::printf(" incorrect month %d \r\n", group.value);
+  complain(" incorrect month %d \r\n", group.value);
   return false;
 }
 

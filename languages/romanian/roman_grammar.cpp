@@ -1,9 +1,9 @@
 #include "languages/romanian/roman_grammar.h"
 
-#include <cstdio>
 #include <initializer_list>
 #include <string_view>
 
+#include "grammar/complaints.h"
 #include "grammar/helpers.h"
 #include "grammar/unit_keys.h"
 #include "languages/romanian/roman_number.h"
@@ -113,7 +113,7 @@ std::string minorDigits(const std::string& fracDigits) {
   return minor;
 }
 
-void refuseDecimal(const std::string& text) { std::printf(" no decimal reading %s \r\n", text.c_str()); }
+void refuseDecimal(const std::string& text) { complain(" no decimal reading %s \r\n", text.c_str()); }
 
 // A number with its leading zeros said one by one: "007" is "zero zero  sapte".
 void speakNumberPiece(std::string_view piece, std::string& out) {
@@ -202,7 +202,7 @@ void RomanGrammar::speakCount(const DigitList& intList, const std::string&, cons
                               std::string& out) {
   std::string number;
   for (auto digit = intList.rbegin(); digit != intList.rend(); ++digit) number += *digit;
-  if (findNoun(unit, false) == nullptr) std::printf(" wrong suffix %s \r\n", unit.c_str());
+  if (findNoun(unit, false) == nullptr) complain(" wrong suffix %s \r\n", unit.c_str());
   appendCount(number, unit, out);
 }
 

@@ -1,8 +1,8 @@
 // Dates, clock times and spans of time of the Russian family. A date or time
 // is appended word by word and cut back to where it began when a part of it
 // turns out invalid: a rejected one leaves nothing in the output.
-#include <cstdio>
 
+#include "grammar/complaints.h"
 #include "languages/russian/family_speaker.h"
 
 namespace vela {
@@ -17,7 +17,7 @@ int FamilySpeaker::speakDate(const std::string& day, const std::string& month, c
   DigitGroup group;
   getDigitGroup(day, &group, 0);
   if (group.value > 31 || group.value < 0) {
-    std::printf(" incorrect day %d \r\n", group.value);
+    complain(" incorrect day %d \r\n", group.value);
     return 0;
   }
   if (lang_.hasDayCaseMarker && caseMarker == "I") {
@@ -28,7 +28,7 @@ int FamilySpeaker::speakDate(const std::string& day, const std::string& month, c
   getDigitGroup(month, &group, 0);
   // Month 0 passes the date patterns but has no name: rejected like month 13.
   if (group.value > 12 || group.value < 1 || static_cast<std::size_t>(group.value) >= lang_.months.size()) {
-    std::printf(" incorrect month %d \r\n", group.value);
+    complain(" incorrect month %d \r\n", group.value);
     out.resize(start);
     return 0;
   }
@@ -38,7 +38,7 @@ int FamilySpeaker::speakDate(const std::string& day, const std::string& month, c
   getDigitGroup(year, &thousands, 3);
   if (thousands.value == 0) return 1;
   if (thousands.value != 1 && thousands.value != 2) {
-    std::printf(" incorrect year %d \r\n", thousands.value);
+    complain(" incorrect year %d \r\n", thousands.value);
     out.resize(start);
     return 0;
   }
@@ -73,13 +73,13 @@ void FamilySpeaker::speakClockTimeWithSeconds(const std::string& hours, const st
   DigitGroup group;
   getDigitGroup(hours, &group, 0);
   if (group.value > 24) {
-    std::printf("wrong time (hours) %s\r\n", hours.c_str());
+    complain("wrong time (hours) %s\r\n", hours.c_str());
     return;
   }
   speakTimePart(group, lang_.hoursGender, lang_.hoursRow, words);
   getDigitGroup(minutes, &group, 0);
   if (group.value > 60) {
-    std::printf("wrong time (minutes) %s\r\n", hours.c_str());
+    complain("wrong time (minutes) %s\r\n", hours.c_str());
     out.resize(start);
     return;
   }
@@ -87,7 +87,7 @@ void FamilySpeaker::speakClockTimeWithSeconds(const std::string& hours, const st
   getDigitGroup(seconds, &group, 0);
   if (!seconds.empty() && group.value != 0) {
     if (group.value > 60) {
-      std::printf("wrong time (secundes) %s\r\n", hours.c_str());
+      complain("wrong time (secundes) %s\r\n", hours.c_str());
       out.resize(start);
       return;
     }

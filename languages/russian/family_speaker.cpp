@@ -2,9 +2,10 @@
 #include "languages/russian/family_speaker.h"
 
 #include <array>
-#include <cstdio>
 #include <iterator>
 #include <string_view>
+
+#include "grammar/complaints.h"
 
 namespace vela {
 namespace {
@@ -65,7 +66,7 @@ int hundredthsOf(const std::string& fracDigits) {
   int n = readInt(fracDigits);
   if (fracDigits.size() == 1) n *= 10;
   for (int i = 0; i < 6 && n > 99; ++i) n /= 10;
-  if (n > 99) std::printf("wrong fractal part %s\r\n", fracDigits.c_str());
+  if (n > 99) complain("wrong fractal part %s\r\n", fracDigits.c_str());
   return n;
 }
 
@@ -74,7 +75,7 @@ int hundredthsOf(const std::string& fracDigits) {
 int FamilySpeaker::speak3(const DigitGroup& group, int gender, int genitive, int ordinal,
                           std::string& out) const {
   if (genitive != 0 && ordinal == 0) {
-    std::printf("%s", lang_.speak3Complaint);
+    complain("%s", lang_.speak3Complaint);
     return 0;
   }
   const NumberViews& words = *lang_.numberViews;
@@ -229,14 +230,14 @@ void FamilySpeaker::speakCount(const std::string& digits, const std::string& suf
   const int row = findUnit(suffix);
   const int gender = genderOf(row);
   if (gender == -1) {
-    std::printf(" wrong suffix (getGender) %s \r\n", suffix.c_str());
+    complain(" wrong suffix (getGender) %s \r\n", suffix.c_str());
     return;
   }
   speakUnitsGroup(group, gender, out);
   if (row >= 0) {
     appendUnitForm(group, out, row, belowThousand ? 2 : 1);
   } else {
-    std::printf(" wrong suffix %s \r\n", suffix.c_str());
+    complain(" wrong suffix %s \r\n", suffix.c_str());
   }
 }
 
@@ -310,7 +311,7 @@ void FamilySpeaker::speakMinorUnits(const std::string& fracDigits, const std::st
   const int row = findUnit(word);
   const int gender = genderOf(row);
   if (row == -1 || gender == -1) {
-    std::printf("wrong minor %s\r\n", word);
+    complain("wrong minor %s\r\n", word);
     return;
   }
   speakUnitsGroup(group, gender, out);
@@ -353,7 +354,7 @@ void FamilySpeaker::speakDecimal(const std::string& intDigits, const std::string
   if (!speakDecimalNumber(intDigits, fracDigits, out)) return;
   const int row = findUnit(unit);
   if (genderOf(row) == -1) {
-    std::printf(" wrong suffix (getGender) %s \r\n", unit.c_str());
+    complain(" wrong suffix (getGender) %s \r\n", unit.c_str());
     return;
   }
   if (row >= 0) appendProxyForm("2", row, out);

@@ -2,7 +2,7 @@
 //
 // Every word appended by speak3 and appendUnitForm is preceded by one space;
 // digit-by-digit readings put the space after the word instead. Bad input is
-// reported with printf on standard output and never stops a request.
+// reported through complain() and never stops a request.
 #pragma once
 
 #include <array>

@@ -6,13 +6,13 @@
 #include "audio/output_file.h"
 #include "audio/platforms.h"
 #include "audio/render.h"
+#include "tools/cli/text.h"
+#include "tools/cli/voice_options.h"
 #include "tools/inventory.h"
-#include "tools/voice_commands.h"
-#include "tools/voice_options.h"
 
 namespace fs = std::filesystem;
 
-namespace vela::tools {
+namespace vela::cli {
 namespace {
 
 // Writes one prompt into every target folder; false after a message.
@@ -53,11 +53,11 @@ int runVoiceExport(const VoiceOptions& options, std::FILE* out) {
                  "vela voice export: needs -l TAG, --voice DIR, --layout asterisk|freeswitch and DEST\n");
     return 2;
   }
-  if (!knownTag(options.tag)) return 1;
+  if (!checkTag(options.language)) return 1;
   audio::ExportRequest request;
   request.layout = options.layout == "asterisk" ? audio::Layout::asterisk : audio::Layout::freeswitch;
   request.destination = options.positional[0];
-  request.language = options.tag;
+  request.language = options.language.tag;
   request.voiceName = options.name;
   request.rates = options.rates;
   request.encoding = options.encoding.value_or(audio::Encoding::pcm16);
@@ -82,7 +82,7 @@ int runVoiceExport(const VoiceOptions& options, std::FILE* out) {
   const audio::Voice voice{options.voices};
   std::size_t total = 0;
   std::size_t written = 0;
-  for (const std::string& name : promptInventory(options.tag, options.mode)) {
+  for (const std::string& name : tools::promptInventory(options.language.tag, options.language.mode)) {
     ++total;
     if (exportPrompt(voice, name, *targets, options)) ++written;
   }
@@ -99,14 +99,14 @@ int runVoiceImport(const VoiceOptions& options, std::FILE* out) {
         "vela voice import: usage: vela voice import asterisk -l ru|en [--sounds DIR] [--copy] DEST\n");
     return 2;
   }
-  const std::vector<audio::AsteriskSound> rows = audio::asteriskSounds(options.tag);
+  const std::vector<audio::AsteriskSound> rows = audio::asteriskSounds(options.language.tag);
   if (rows.empty()) {
     std::fprintf(stderr, "vela voice import: no map of Asterisk's sounds for \"%s\" (ru, en)\n",
-                 options.tag.c_str());
+                 options.language.tag.c_str());
     return 2;
   }
   const std::string sounds =
-      options.sounds.empty() ? "/usr/share/asterisk/sounds/" + options.tag : options.sounds;
+      options.sounds.empty() ? "/usr/share/asterisk/sounds/" + options.language.tag : options.sounds;
   const fs::path dest = options.positional[1];
   std::error_code error;
   fs::create_directories(dest, error);
@@ -114,7 +114,7 @@ int runVoiceImport(const VoiceOptions& options, std::FILE* out) {
     std::fprintf(stderr, "vela: cannot create %s: %s\n", dest.c_str(), error.message().c_str());
     return 1;
   }
-  const std::set<std::string> inventory = promptInventory(options.tag, 0);
+  const std::set<std::string> inventory = tools::promptInventory(options.language.tag, 0);
   std::set<std::string> imported;
   for (const audio::AsteriskSound& row : rows) {
     const std::optional<std::string> name = audio::promptNameOfStem(row.prompt);
@@ -146,9 +146,9 @@ int runVoiceImport(const VoiceOptions& options, std::FILE* out) {
   std::fprintf(out, "%zu of %zu prompts from %s in %s; still to record (%zu):\n", imported.size(),
                inventory.size(), sounds.c_str(), dest.c_str(), inventory.size() - imported.size());
   for (const std::string& name : inventory) {
-    if (imported.count(name) == 0) std::fprintf(out, "%s\n", shownName(options, name).c_str());
+    if (imported.count(name) == 0) std::fprintf(out, "%s\n", shownName(options.language, name).c_str());
   }
   return imported.empty() ? 1 : 0;
 }
 
-}  // namespace vela::tools
+}  // namespace vela::cli

@@ -1,14 +1,9 @@
-#include "tools/voice_options.h"
+#include "tools/cli/voice_options.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
-#include <functional>
 
-#include "grammar/factory.h"
-#include "tools/encoding.h"
-
-namespace vela::tools {
+namespace vela::cli {
 namespace {
 
 std::optional<long> wholeNumber(const std::string& value, long low, long high) {
@@ -26,76 +21,71 @@ std::optional<double> realNumber(const std::string& value, double low, double hi
 }
 
 // An option that takes a value: false when the value is bad.
-using Setter = std::function<bool(VoiceOptions&, const std::string&)>;
 struct ValueOption {
   const char* name;
-  Setter set;
+  const char* takes;  // for the message
+  bool (*set)(VoiceOptions&, const std::string&);
 };
 
 const ValueOption kValueOptions[] = {
-    {"-l",
-     [](VoiceOptions& o, const std::string& v) {
-       o.tag = v;
-       return true;
-     }},
-    {"--voice",
+    {"--voice", "a folder",
      [](VoiceOptions& o, const std::string& v) {
        o.voices.push_back(v);
        return !v.empty();
      }},
-    {"-o",
+    {"-o", "a file",
      [](VoiceOptions& o, const std::string& v) {
        o.outPath = v;
        return !v.empty();
      }},
-    {"--pause",
+    {"--pause", "milliseconds from 0 to 60000",
      [](VoiceOptions& o, const std::string& v) {
        const auto ms = wholeNumber(v, 0, audio::kMaxPauseMs);
        o.pauseMs = static_cast<int>(ms.value_or(0));
        return ms.has_value();
      }},
-    {"--rate",
+    {"--rate", "a sample rate from 1000 to 384000 Hz",
      [](VoiceOptions& o, const std::string& v) {
        const auto hz = wholeNumber(v, audio::kMinRate, audio::kMaxRate);
        if (hz) o.rate = static_cast<int>(*hz), o.rates.push_back(static_cast<int>(*hz));
        return hz.has_value();
      }},
-    {"--encoding",
+    {"--encoding", "pcm16, ulaw or alaw",
      [](VoiceOptions& o, const std::string& v) {
        o.encoding = audio::parseEncoding(v);
        return o.encoding.has_value();
      }},
-    {"--format",
+    {"--format", "a format",
      [](VoiceOptions& o, const std::string& v) {
        o.format = v;
        return !v.empty();
      }},
-    {"--silence-db",
+    {"--silence-db", "a level from -120 to 0 dBFS",
      [](VoiceOptions& o, const std::string& v) {
        o.silenceDb = realNumber(v, -120, 0).value_or(1);
        return o.silenceDb <= 0;
      }},
-    {"--max-silence",
+    {"--max-silence", "milliseconds",
      [](VoiceOptions& o, const std::string& v) {
        o.maxSilenceMs = static_cast<int>(wholeNumber(v, 0, 60000).value_or(-1));
        return o.maxSilenceMs >= 0;
      }},
-    {"--loudness-range",
+    {"--loudness-range", "loudness units",
      [](VoiceOptions& o, const std::string& v) {
        o.loudnessRange = realNumber(v, 0, 100).value_or(-1);
        return o.loudnessRange >= 0;
      }},
-    {"--layout",
+    {"--layout", "asterisk or freeswitch",
      [](VoiceOptions& o, const std::string& v) {
        o.layout = v;
        return v == "asterisk" || v == "freeswitch";
      }},
-    {"--name",
+    {"--name", "a folder name",
      [](VoiceOptions& o, const std::string& v) {
        o.name = v;
        return !v.empty() && v.find('/') == std::string::npos;
      }},
-    {"--sounds",
+    {"--sounds", "a folder",
      [](VoiceOptions& o, const std::string& v) {
        o.sounds = v;
        return !v.empty();
@@ -107,54 +97,29 @@ struct FlagOption {
   void (*set)(VoiceOptions&);
 };
 const FlagOption kFlags[] = {
-    {"-t", [](VoiceOptions& o) { o.mode = 1; }},
-    {"--raw", [](VoiceOptions& o) { o.raw = true; }},
     {"--json", [](VoiceOptions& o) { o.json = true; }},
     {"--copy", [](VoiceOptions& o) { o.copy = true; }},
-    {"--script", [](VoiceOptions& o) { o.script = true; }},
     {"--trim", [](VoiceOptions& o) { o.trimDb = kDefaultTrimDb; }},
 };
 
-// "-5rub", "-,5kb" and "-" are texts, not options.
-bool isText(const std::string& arg) {
-  if (arg.size() < 2 || arg[0] != '-') return true;
-  const char c = arg[1];
-  return (c >= '0' && c <= '9') || c == ',' || c == '.' || c == '|';
-}
-
 }  // namespace
 
-bool knownTag(const std::string& tag) {
-  for (std::string_view known : knownTags()) {
-    if (known == tag) return true;
-  }
-  std::fprintf(stderr, "vela: unknown language tag \"%s\"\n", tag.c_str());
-  return false;
-}
-
-std::string shownName(const VoiceOptions& options, const std::string& name) {
-  return options.raw ? name : utf8FromCp1251(name);
-}
-
-std::optional<std::string> parseVoiceOptions(const std::vector<std::string>& args,
-                                             const std::vector<std::string>& allowed, VoiceOptions& options) {
-  const auto takes = [&](const std::string& name) {
+void parseVoiceOptions(Arguments& args, std::initializer_list<std::string_view> allowed,
+                       VoiceOptions& options) {
+  const auto takes = [&](std::string_view name) {
     return std::find(allowed.begin(), allowed.end(), name) != allowed.end();
   };
-  bool onlyPositional = false;
-  for (std::size_t i = 0; i < args.size(); ++i) {
-    const std::string& arg = args[i];
-    if (onlyPositional || isText(arg)) {
+  while (args.next()) {
+    const std::string arg = args.current();
+    if (!args.isOption()) {
       options.positional.push_back(arg);
       continue;
     }
-    if (arg == "--") {
-      onlyPositional = true;
-      continue;
-    }
+    if (takes(arg) && takeLanguageOption(args, options.language)) continue;
     if (arg.rfind("--trim=", 0) == 0 && takes("--trim")) {
       options.trimDb = realNumber(arg.substr(7), -120, 0);
-      if (!options.trimDb) return "bad value: " + arg;
+      if (!options.trimDb)
+        throw UsageError{"--trim takes a level from -120 to 0 dBFS, not \"" + arg.substr(7) + "\""};
       continue;
     }
     const auto flag = std::find_if(std::begin(kFlags), std::end(kFlags),
@@ -163,13 +128,13 @@ std::optional<std::string> parseVoiceOptions(const std::vector<std::string>& arg
       flag->set(options);
       continue;
     }
-    const auto value = std::find_if(std::begin(kValueOptions), std::end(kValueOptions),
-                                    [&](const ValueOption& v) { return arg == v.name; });
-    if (value == std::end(kValueOptions) || !takes(arg)) return "unknown option: " + arg;
-    if (i + 1 >= args.size()) return "missing value: " + arg;
-    if (!value->set(options, args[++i])) return "bad value: " + arg + " " + args[i];
+    const auto option = std::find_if(std::begin(kValueOptions), std::end(kValueOptions),
+                                     [&](const ValueOption& v) { return arg == v.name; });
+    if (option == std::end(kValueOptions) || !takes(arg)) args.reject();
+    const std::string value = args.value();
+    if (!option->set(options, value))
+      throw UsageError{arg + " takes " + option->takes + ", not \"" + value + "\""};
   }
-  return std::nullopt;
 }
 
-}  // namespace vela::tools
+}  // namespace vela::cli

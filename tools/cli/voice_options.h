@@ -2,23 +2,25 @@
 // --check|--script): one parser, each command naming the options it takes.
 #pragma once
 
+#include <cstdio>
+#include <initializer_list>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "audio/platforms.h"
 #include "audio/render.h"
+#include "tools/cli/command.h"
 
-namespace vela::tools {
+namespace vela::cli {
 
 struct VoiceOptions {
-  std::string tag = "ru";
-  unsigned char mode = 0;
-  bool raw = false;                 // texts and names as Windows-1251 bytes
+  LanguageOptions language;
   std::vector<std::string> voices;  // --voice, in order
   std::string outPath;              // -o
   int pauseMs = 150;                // --pause
-  std::optional<int> rate;          // --rate (say)
+  std::optional<int> rate;          // --rate (say: the last one)
   std::vector<int> rates;           // --rate, every one given (export)
   std::optional<audio::Encoding> encoding;
   std::string format;            // --format
@@ -31,23 +33,22 @@ struct VoiceOptions {
   std::string name = "vela";     // --name (FreeSWITCH voice)
   std::string sounds;            // --sounds
   bool copy = false;             // --copy
-  bool script = false;           // prompts --script
   std::vector<std::string> positional;
 };
 
 // The trim threshold when --trim is given without a value.
 inline constexpr double kDefaultTrimDb = -45;
 
-// Parses `args` (the words after the command's name) allowing only the
-// options in `allowed` ("-l", "--voice", ...). On a usage error returns the
-// message to print; exit status 2 follows.
-std::optional<std::string> parseVoiceOptions(const std::vector<std::string>& args,
-                                             const std::vector<std::string>& allowed, VoiceOptions& options);
+// Reads the rest of `args`, taking only the options in `allowed` ("-l",
+// "--voice", ...); throws UsageError otherwise or for a bad value.
+void parseVoiceOptions(Arguments& args, std::initializer_list<std::string_view> allowed,
+                       VoiceOptions& options);
 
-// True when the library knows `tag`; otherwise false after a message.
-bool knownTag(const std::string& tag);
+// The work of each voice command; each returns the exit status (0 done, 1
+// something to fix, named on standard error or in its table).
+int runVoiceCheck(const VoiceOptions& options, std::FILE* out);
+int runVoiceExport(const VoiceOptions& options, std::FILE* out);
+int runVoiceImport(const VoiceOptions& options, std::FILE* out);
+int runPromptScript(const VoiceOptions& options, std::FILE* out);
 
-// A prompt name (Windows-1251) as the user sees it: UTF-8, or the bytes with --raw.
-std::string shownName(const VoiceOptions& options, const std::string& name);
-
-}  // namespace vela::tools
+}  // namespace vela::cli

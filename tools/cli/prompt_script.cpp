@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <map>
 
+#include "tools/cli/text.h"
+#include "tools/cli/voice_options.h"
 #include "tools/inventory.h"
-#include "tools/voice_commands.h"
-#include "tools/voice_options.h"
 
-namespace vela::tools {
+namespace vela::cli {
 namespace {
 
 constexpr std::size_t kExamples = 2;
@@ -32,7 +32,7 @@ class ExampleFinder {
 
   void offer(const std::string& text, const std::string& answer) {
     names_.clear();
-    splitNames(answer, names_);
+    tools::splitNames(answer, names_);
     for (const std::string& name : names_) {
       std::vector<Example>& kept = byName_[name];
       if (kept.size() == kExamples && answer.size() >= kept.back().answer.size()) continue;
@@ -53,7 +53,8 @@ class ExampleFinder {
   const std::vector<std::string>& spokenNames(const std::string& text) {
     auto [it, added] = spoken_.try_emplace(text);
     if (added)
-      it->second = speakNames(options_.tag, options_.mode, text).value_or(std::vector<std::string>{});
+      it->second = tools::speakNames(options_.language.tag, options_.language.mode, text)
+                       .value_or(std::vector<std::string>{});
     return it->second;
   }
 
@@ -65,8 +66,9 @@ class ExampleFinder {
 
 std::map<std::string, std::vector<Example>> examples(const VoiceOptions& options) {
   ExampleFinder finder(options);
-  forEachReading(options.tag, options.mode,
-                 [&](const std::string& text, const std::string& answer) { finder.offer(text, answer); });
+  tools::forEachReading(
+      options.language.tag, options.language.mode,
+      [&](const std::string& text, const std::string& answer) { finder.offer(text, answer); });
   return finder.examples();
 }
 
@@ -94,28 +96,28 @@ int runPromptScript(const VoiceOptions& options, std::FILE* out) {
     std::fprintf(stderr, "vela prompts --script: --format is tsv or html\n");
     return 2;
   }
-  if (!knownTag(options.tag)) return 1;
+  if (!checkTag(options.language)) return 1;
   const bool asHtml = options.format == "html";
   const auto byName = examples(options);
   if (asHtml) {
     std::fprintf(out,
                  "<!DOCTYPE html>\n<meta charset=\"utf-8\">\n<title>vela %s prompts</title>\n<table>\n"
                  "<tr><th>prompt</th><th>file</th><th>example</th><th>whole answer</th></tr>\n",
-                 html(options.tag).c_str());
+                 html(options.language.tag).c_str());
   } else {
     std::fprintf(out, "prompt\tfile\texample\twhole answer\n");
   }
   int status = 0;
-  for (const std::string& name : promptInventory(options.tag, options.mode)) {
+  for (const std::string& name : tools::promptInventory(options.language.tag, options.language.mode)) {
     const auto found = byName.find(name);
     const std::vector<Example> none;
     const std::vector<Example>& list = found == byName.end() ? none : found->second;
     if (list.empty()) status = 1;
-    const std::string shown = shownName(options, name);
+    const std::string shown = shownName(options.language, name);
     const std::string file = audio::promptFileStem(name) + ".wav";
     for (std::size_t i = 0; i < std::max<std::size_t>(list.size(), 1); ++i) {
-      const std::string text = i < list.size() ? shownName(options, list[i].text) : "";
-      const std::string answer = i < list.size() ? shownName(options, list[i].answer) : "";
+      const std::string text = i < list.size() ? shownName(options.language, list[i].text) : "";
+      const std::string answer = i < list.size() ? shownName(options.language, list[i].answer) : "";
       if (asHtml) {
         std::fprintf(out, "<tr><td>%s</td><td>%s</td><td>%s</td><td>%s</td></tr>\n", html(shown).c_str(),
                      html(file).c_str(), html(text).c_str(), html(answer).c_str());
@@ -130,4 +132,4 @@ int runPromptScript(const VoiceOptions& options, std::FILE* out) {
   return status;
 }
 
-}  // namespace vela::tools
+}  // namespace vela::cli

@@ -1,16 +1,17 @@
 // vela voice check: every prompt of a language against a voice's recordings.
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <map>
 #include <sstream>
 
 #include "audio/analysis.h"
 #include "audio/render.h"
+#include "tools/cli/text.h"
+#include "tools/cli/voice_options.h"
 #include "tools/inventory.h"
-#include "tools/voice_commands.h"
-#include "tools/voice_options.h"
 
-namespace vela::tools {
+namespace vela::cli {
 namespace {
 
 // What the check finds, in the order the summary lists the kinds.
@@ -136,7 +137,7 @@ void printTable(const std::vector<Problem>& problems, std::FILE* out) {
 void printJson(const VoiceOptions& options, std::size_t prompts, std::size_t recordings,
                const std::vector<Problem>& problems, const std::map<std::string, int>& counts,
                std::FILE* out) {
-  std::fprintf(out, "{\"tag\": %s, \"folders\": [", jsonString(options.tag).c_str());
+  std::fprintf(out, "{\"tag\": %s, \"folders\": [", jsonString(options.language.tag).c_str());
   for (std::size_t i = 0; i < options.positional.size(); ++i)
     std::fprintf(out, "%s%s", i ? ", " : "", jsonString(options.positional[i]).c_str());
   std::fprintf(out, "], \"prompts\": %zu, \"recordings\": %zu, \"problems\": [", prompts, recordings);
@@ -159,14 +160,21 @@ void printJson(const VoiceOptions& options, std::size_t prompts, std::size_t rec
 
 // The check proper, for `voice check` and the `prompts --check` alias.
 int runVoiceCheck(const VoiceOptions& options, std::FILE* out) {
-  if (!knownTag(options.tag)) return 1;
+  for (const std::string& folder : options.positional) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(folder, error)) {
+      std::fprintf(stderr, "vela: %s is not a directory\n", folder.c_str());
+      return 2;
+    }
+  }
+  if (!checkTag(options.language)) return 1;
   const audio::Voice voice{options.positional};
   std::vector<Problem> problems;
   std::vector<Found> found;
   std::size_t prompts = 0;
-  for (const std::string& name : promptInventory(options.tag, options.mode)) {
+  for (const std::string& name : tools::promptInventory(options.language.tag, options.language.mode)) {
     ++prompts;
-    const std::string shown = shownName(options, name);
+    const std::string shown = shownName(options.language, name);
     const std::optional<std::string> path = audio::findRecording(voice, name);
     if (!path) {
       problems.push_back(
@@ -206,4 +214,4 @@ int runVoiceCheck(const VoiceOptions& options, std::FILE* out) {
   return problems.empty() ? 0 : 1;
 }
 
-}  // namespace vela::tools
+}  // namespace vela::cli
