@@ -25,7 +25,8 @@ std::string voiceFolder(int rate) {
     info.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
     SNDFILE* f = sf_open((folder + "/" + name + ".wav").c_str(), SFM_WRITE, &info);
     std::vector<short> samples(static_cast<std::size_t>(rate) / 2);  // half a second: a word
-    for (std::size_t i = 0; i < samples.size(); ++i) samples[i] = static_cast<short>(8000 * std::sin(0.07 * i));
+    for (std::size_t i = 0; i < samples.size(); ++i)
+      samples[i] = static_cast<short>(8000 * std::sin(0.07 * i));
     sf_writef_short(f, samples.data(), static_cast<sf_count_t>(samples.size()));
     sf_close(f);
   }
@@ -49,7 +50,8 @@ void BM_RenderFourPrompts8kUlaw(benchmark::State& state) { renderFour(state, 800
 void BM_RenderFourPrompts16kTo8kUlaw(benchmark::State& state) { renderFour(state, 16000); }
 void BM_FingerprintFourPrompts(benchmark::State& state) {
   const vela::audio::Voice voice{{voiceFolder(8000)}};
-  for (auto _ : state) benchmark::DoNotOptimize(vela::audio::fingerprintPrompts(voice, {"a", "b", "c", "d"}, {}));
+  for (auto _ : state)
+    benchmark::DoNotOptimize(vela::audio::fingerprintPrompts(voice, {"a", "b", "c", "d"}, {}));
 }
 
 BENCHMARK(BM_RenderFourPrompts8kUlaw)->Unit(benchmark::kMicrosecond);

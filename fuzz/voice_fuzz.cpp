@@ -61,7 +61,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   // Nothing is rendered on an error; a WAV answer has at least its header (a
   // headerless one of recordings shorter than one output frame may be empty).
   if (!answer.ok() && !answer.bytes.empty()) std::abort();
-  if (answer.ok() && answer.format.container == vela::audio::Container::wav && answer.bytes.empty()) std::abort();
+  if (answer.ok() && answer.format.container == vela::audio::Container::wav && answer.bytes.empty())
+    std::abort();
   const auto print = vela::audio::fingerprintPrompts(voice, {"x", "x"}, options);
   if (answer.ok() && (!print || *print != answer.fingerprint)) std::abort();
   unlink(path.c_str());

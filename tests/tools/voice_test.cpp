@@ -150,7 +150,9 @@ TEST_F(VoiceToolTest, BadRecordingsAreRefusedAlikeByEveryCommand) {
     std::string log;
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(run("say -l ru --voice " + voice() + " -o " + output() + " 21руб", &log), 1) << row.kind;
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1)) << row.kind;
+    // The library answers within a second (recording_test.cpp); a whole process
+    // under the sanitizers on a busy machine gets more, but never hangs.
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5)) << row.kind;
     EXPECT_NE(log.find("один.wav"), std::string::npos) << log;
     std::ifstream kept(output());
     std::string content;
