@@ -12,6 +12,7 @@ packages=(
   libicu-dev
   locales
   libsndfile1-dev python3 python3-pytest espeak-ng
+  chromium chromium-driver python3-selenium wrk
 )
 
 missing=()

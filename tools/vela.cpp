@@ -7,6 +7,7 @@
 #include <string>
 
 #include "tools/commands.h"
+#include "tools/serve_command.h"
 
 namespace {
 
@@ -121,6 +122,7 @@ vela::tools::Options parseOptions(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (argc > 1 && std::string(argv[1]) == "serve") return vela::tools::serveCommand(argc - 2, argv + 2);
   const vela::tools::Options options = parseOptions(argc, argv);
 
   // The grammars print their complaints on standard output: point that at
