@@ -14,6 +14,8 @@ packages=(
   libsndfile1-dev python3 python3-pytest espeak-ng
   chromium chromium-driver python3-selenium wrk
 )
+# bench/http.sh compares the HTTP service with nginx serving a static file.
+[ "${1:-}" = "--http-bench" ] && packages+=(nginx-light)
 
 missing=()
 for p in "${packages[@]}"; do

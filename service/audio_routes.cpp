@@ -225,6 +225,12 @@ std::string recordingState(const audio::Voice& voice, const std::string& name, j
 Response handleAudio(Service& service, const Target& target, const Request& request) {
   audio::RenderOptions options;
   if (auto error = parseRenderOptions(target, options)) return errorResponse(400, *error);
+  // /v1/audio.ulaw and the like: for players that go by the URL's extension.
+  if (const std::size_t dot = target.path.find('.'); dot != std::string::npos) {
+    const auto format = audio::formatForFileName("audio" + target.path.substr(dot), options.format);
+    if (!format) return errorResponse(404, "no such audio type: " + target.path.substr(dot));
+    options.format = *format;
+  }
   auto spoken = spokenReading(target);
   if (auto* error = std::get_if<Response>(&spoken)) return std::move(*error);
   const auto& [ask, reading] = std::get<Spoken>(spoken);

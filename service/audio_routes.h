@@ -10,7 +10,7 @@
 
 namespace vela::service {
 
-// GET /v1/audio?lang=&text=[&rate=8000][&encoding=pcm16|ulaw|alaw][&format=wav|raw][&pause=MS]
+// GET /v1/audio[.EXT]?lang=&text=[&rate=8000][&encoding=pcm16|ulaw|alaw][&format=wav|raw][&pause=MS]
 Response handleAudio(Service& service, const Target& target, const Request& request);
 // GET /v1/files?lang=&text=&layout=asterisk|urls
 Response handleFiles(Service& service, const Target& target, const Request& request);

@@ -89,7 +89,7 @@ std::optional<std::string> parseTarget(std::string_view raw, Target& target) {
   if (question == std::string_view::npos) return std::nullopt;
   std::string_view query = raw.substr(question + 1);
   while (!query.empty()) {
-    const std::size_t amp = query.find('&');
+    const std::size_t amp = query.find_first_of("&;");
     std::string pair(query.substr(0, amp));
     query = amp == std::string_view::npos ? std::string_view() : query.substr(amp + 1);
     if (pair.empty()) continue;

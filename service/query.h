@@ -20,9 +20,10 @@ struct Target {
 };
 
 // Splits "/v1/read?lang=ru&text=12.50%D1%80" into its path and decoded
-// parameters ("+" is a space). Returns the message of a 400 answer when a "%"
-// is not followed by two hexadecimal digits, the path does not start with "/",
-// or a decoded key or value holds a NUL byte.
+// parameters ("+" is a space). ";" separates parameters too: Asterisk's
+// Playback splits its argument at "&", so its URLs use "lang=ru;text=...". Returns the message of a 400
+// answer when a "%" is not followed by two hexadecimal digits, the path does not start with "/", or a decoded
+// key or value holds a NUL byte.
 std::optional<std::string> parseTarget(std::string_view raw, Target& target);
 
 // Decodes %XX escapes (and nothing else); nullopt on a malformed escape.

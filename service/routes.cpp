@@ -153,7 +153,9 @@ const Route kRoutes[] = {
     {"GET", "/", Match::exact, handlePlayground},     // the playground page (HTML)
     {"GET", "/v1/read", Match::exact, handleRead},    // JSON: names, status, diagnostics; 400
     {"GET", "/v1/audio", Match::exact, handleAudio},  // audio; ETag, 304, Cache-Control; 400 404 422
-    {"GET", "/v1/files", Match::exact, handleFiles},  // Playback list or JSON URLs; 400 404 422
+    {"GET", "/v1/audio.", Match::prefix,
+     handleAudio},  // the same, the container from the extension (.wav, .ulaw, ...)
+    {"GET", "/v1/files", Match::exact, handleFiles},             // Playback list or JSON URLs; 400 404 422
     {"GET", "/v1/recordings/", Match::prefix, handleRecording},  // one prompt's audio; 404
     {"GET", "/v1/languages", Match::exact, handleLanguages},     // JSON
     {"GET", "/v1/prompts", Match::exact, handlePrompts},         // JSON, with recordings' state; 400
@@ -187,6 +189,8 @@ Response errorResponse(int status, std::string_view message) {
 
 Response respond(Service& service, const Request& request, std::size_t& route) {
   const std::string_view target = request.target;
+  route = kRouteCount;
+  if (!target.starts_with('/')) return errorResponse(400, "the request target must start with \"/\"");
   route = findRoute(target.substr(0, target.find('?')));
   if (route == kRouteCount) return errorResponse(404, "no such route");
   const Route& found = kRoutes[route];
