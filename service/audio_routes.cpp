@@ -73,13 +73,20 @@ Response notSpoken(const Reading& reading) {
                          {"diagnostics", utf8Array(reading.diagnostics)}});
 }
 
-// 404 naming every prompt of `names` the voice has no recording of, or
-// nullopt when it has them all.
-std::optional<Response> missingRecordings(const audio::Voice& voice, const std::vector<std::string>& names) {
+// The file of each prompt of `names`, or a 404 naming every prompt the voice
+// has no recording of.
+std::variant<std::vector<std::string>, Response> findRecordings(const audio::Voice& voice,
+                                                                const std::vector<std::string>& names) {
+  std::vector<std::string> paths;
   json::array missing;
-  for (const std::string& name : names)
-    if (!audio::findRecording(voice, name)) missing.emplace_back(toUtf8(name));
-  if (missing.empty()) return std::nullopt;
+  for (const std::string& name : names) {
+    if (auto path = audio::findRecording(voice, name)) {
+      paths.push_back(std::move(*path));
+    } else {
+      missing.emplace_back(toUtf8(name));
+    }
+  }
+  if (missing.empty()) return paths;
   return jsonError(
       404, {{"error", "the voice has no recording of some prompts"}, {"missing", std::move(missing)}});
 }
@@ -107,8 +114,10 @@ Response fromCache(const CachedAudio& audio, int maxAge) {
 // The answer for prompts known to be spoken: 304, a cached rendering, or a new one.
 Response renderAnswer(Service& service, const audio::Voice& voice, const std::vector<std::string>& names,
                       const audio::RenderOptions& options, const Request& request) {
-  if (auto missing = missingRecordings(voice, names)) return std::move(*missing);
-  const auto fingerprint = audio::fingerprintPrompts(voice, names, options);
+  auto paths = findRecordings(voice, names);
+  if (auto* missing = std::get_if<Response>(&paths)) return std::move(*missing);
+  const auto fingerprint =
+      service.fingerprints().fingerprint(voice, names, std::get<std::vector<std::string>>(paths), options);
   if (!fingerprint) return renderFailure({fingerprint.error()});
   const std::string etag = "\"" + *fingerprint + "\"";
   const int maxAge = service.config().maxAge;
@@ -258,7 +267,8 @@ Response handleFiles(Service& service, const Target& target, const Request& requ
   }
   const auto voice = service.voiceFor(ask.tag, ask.latin);
   if (voice == nullptr) return noVoice(voiceKey(ask));
-  if (auto missing = missingRecordings(*voice, reading.names)) return std::move(*missing);
+  if (auto paths = findRecordings(*voice, reading.names); std::holds_alternative<Response>(paths))
+    return std::get<Response>(std::move(paths));
   std::string base = service.config().baseUrl;
   if (base.empty()) {
     if (!plainHost(request.host)) return errorResponse(400, "a Host header is needed to build URLs");

@@ -1,12 +1,14 @@
 // The only unit that includes Boost.Beast: it is slow to compile.
 #include "service/http_server.h"
 
+#include <sys/socket.h>
 #include <vela/vela.h>
 
 #include <atomic>
 #include <boost/asio.hpp>
 #include <boost/beast/core.hpp>
 #include <boost/beast/http.hpp>
+#include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <memory>
@@ -63,6 +65,14 @@ class Session : public std::enable_shared_from_this<Session> {
   bool counted_ = false;
 };
 
+// One per core: an I/O context run by one thread, with its own listening
+// socket on the shared port (SO_REUSEPORT: the kernel spreads connections), so
+// workers share no queue and no lock on the way of a request.
+struct Worker {
+  net::io_context ioc{1};
+  tcp::acceptor acceptor{ioc};
+};
+
 class Server {
  public:
   explicit Server(const Config& config);
@@ -77,16 +87,15 @@ class Server {
 
  private:
   bool listen();
-  void accept();
-  void onAccept(beast::error_code ec, tcp::socket socket);
+  bool listenOn(Worker& worker, const tcp::endpoint& endpoint);
+  void accept(Worker& worker);
+  void onAccept(Worker& worker, beast::error_code ec, tcp::socket socket);
   void waitForSignals();
   void waitForHangup();
   void stop();
 
   Service service_;
-  unsigned threads_;
-  net::io_context ioc_;
-  tcp::acceptor acceptor_;
+  std::vector<std::unique_ptr<Worker>> workers_;
   net::signal_set signals_;
   net::signal_set hangup_;
   std::atomic<bool> stopping_{false};
@@ -213,13 +222,38 @@ void Session::close() {
 
 // ------------------------------------------------------------------ Server
 
+unsigned workerCount(const Config& config) {
+  return config.threads != 0 ? config.threads : std::max(1u, std::thread::hardware_concurrency());
+}
+
 Server::Server(const Config& config)
     : service_(config, routeNames()),
-      threads_(config.threads != 0 ? config.threads : std::max(1u, std::thread::hardware_concurrency())),
-      ioc_(static_cast<int>(threads_)),
-      acceptor_(net::make_strand(ioc_)),
-      signals_(ioc_, SIGTERM, SIGINT),
-      hangup_(ioc_, SIGHUP) {}
+      workers_([&] {
+        std::vector<std::unique_ptr<Worker>> workers;
+        for (unsigned i = 0; i < workerCount(config); ++i) workers.push_back(std::make_unique<Worker>());
+        return workers;
+      }()),
+      signals_(workers_[0]->ioc, SIGTERM, SIGINT),
+      hangup_(workers_[0]->ioc, SIGHUP) {}
+
+bool Server::listenOn(Worker& worker, const tcp::endpoint& endpoint) {
+  beast::error_code ec;
+  worker.acceptor.open(endpoint.protocol(), ec);
+  if (!ec) worker.acceptor.set_option(net::socket_base::reuse_address(true), ec);
+  if (!ec) {
+    const int on = 1;
+    if (setsockopt(worker.acceptor.native_handle(), SOL_SOCKET, SO_REUSEPORT, &on, sizeof on) != 0)
+      ec.assign(errno, boost::system::system_category());
+  }
+  if (!ec) worker.acceptor.bind(endpoint, ec);
+  if (!ec) worker.acceptor.listen(net::socket_base::max_listen_connections, ec);
+  if (ec) {
+    std::fprintf(stderr, "vela serve: cannot listen on %s:%u: %s\n", config().address.c_str(),
+                 static_cast<unsigned>(endpoint.port()), ec.message().c_str());
+    return false;
+  }
+  return true;
+}
 
 bool Server::listen() {
   beast::error_code ec;
@@ -228,17 +262,11 @@ bool Server::listen() {
     std::fprintf(stderr, "vela serve: not an address: %s\n", config().address.c_str());
     return false;
   }
-  const tcp::endpoint endpoint(address, config().port);
-  acceptor_.open(endpoint.protocol(), ec);
-  if (!ec) acceptor_.set_option(net::socket_base::reuse_address(true), ec);
-  if (!ec) acceptor_.bind(endpoint, ec);
-  if (!ec) acceptor_.listen(net::socket_base::max_listen_connections, ec);
-  if (ec) {
-    std::fprintf(stderr, "vela serve: cannot listen on %s:%u: %s\n", config().address.c_str(),
-                 static_cast<unsigned>(config().port), ec.message().c_str());
-    return false;
-  }
-  const tcp::endpoint bound = acceptor_.local_endpoint();
+  // The first socket takes the port (a free one for port 0); the others join it.
+  if (!listenOn(*workers_[0], tcp::endpoint(address, config().port))) return false;
+  const tcp::endpoint bound = workers_[0]->acceptor.local_endpoint();
+  for (std::size_t i = 1; i < workers_.size(); ++i)
+    if (!listenOn(*workers_[i], bound)) return false;
   const std::string shown =
       bound.address().is_v6() ? "[" + bound.address().to_string() + "]" : bound.address().to_string();
   std::fprintf(stderr, "vela serve: listening on %s:%u\n", shown.c_str(),
@@ -250,20 +278,23 @@ int Server::run() {
   if (!listen()) return 1;
   waitForSignals();
   waitForHangup();
-  accept();
-  std::vector<std::thread> workers;
-  for (unsigned i = 1; i < threads_; ++i) workers.emplace_back([this] { ioc_.run(); });
-  ioc_.run();
-  for (std::thread& worker : workers) worker.join();
+  for (auto& worker : workers_) accept(*worker);
+  std::vector<std::thread> threads;
+  for (std::size_t i = 1; i < workers_.size(); ++i)
+    threads.emplace_back([this, i] { workers_[i]->ioc.run(); });
+  workers_[0]->ioc.run();
+  for (std::thread& thread : threads) thread.join();
   std::fprintf(stderr, "vela serve: stopped\n");
   return 0;
 }
 
-void Server::accept() {
-  acceptor_.async_accept(net::make_strand(ioc_), beast::bind_front_handler(&Server::onAccept, this));
+void Server::accept(Worker& worker) {
+  worker.acceptor.async_accept(worker.ioc, [this, &worker](beast::error_code ec, tcp::socket socket) {
+    onAccept(worker, ec, std::move(socket));
+  });
 }
 
-void Server::onAccept(beast::error_code ec, tcp::socket socket) {
+void Server::onAccept(Worker& worker, beast::error_code ec, tcp::socket socket) {
   if (stopping()) return;
   if (!ec) {
     auto session = std::make_shared<Session>(std::move(socket), *this);
@@ -273,7 +304,7 @@ void Server::onAccept(beast::error_code ec, tcp::socket socket) {
       session->start();
     }
   }
-  accept();
+  accept(worker);
 }
 
 void Server::waitForSignals() {
@@ -312,10 +343,11 @@ void Server::stop() {
     for (auto& [raw, weak] : sessions_)
       if (auto session = weak.lock()) net::post(session->executor(), [session] { session->closeIfIdle(); });
   }
-  net::post(acceptor_.get_executor(), [this] {
-    beast::error_code ignored;
-    acceptor_.close(ignored);
-  });
+  for (auto& worker : workers_)
+    net::post(worker->ioc, [&acceptor = worker->acceptor] {
+      beast::error_code ignored;
+      acceptor.close(ignored);
+    });
   hangup_.cancel();
 }
 

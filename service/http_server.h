@@ -1,6 +1,6 @@
 // The HTTP/1.1 server around the routes: Boost.Beast over Boost.Asio, one
-// process, one thread per core running one I/O context, each connection on a
-// strand of its own.
+// process, a worker thread per core, each with its own I/O context and its own
+// listening socket on the shared port; a connection stays on one worker.
 #pragma once
 
 #include "service/service.h"

@@ -5,6 +5,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <vector>
 
 namespace vela::service {
 namespace {
@@ -16,11 +17,37 @@ int hexValue(char c) {
   return -1;
 }
 
+// The conversion descriptors of this thread, opened once: iconv_open loads
+// and sets up a converter, which costs more than converting a short text.
+class Converters {
+ public:
+  ~Converters() {
+    for (const auto& [key, cd] : open_) iconv_close(cd);
+  }
+  // The descriptor for from -> to (string literals), reset to its initial
+  // state; (iconv_t)-1 when the system has no such conversion.
+  iconv_t get(const char* to, const char* from) {
+    for (const auto& [key, cd] : open_)
+      if (key.first == to && key.second == from) {
+        iconv(cd, nullptr, nullptr, nullptr, nullptr);
+        return cd;
+      }
+    iconv_t cd = iconv_open(to, from);
+    if (cd != reinterpret_cast<iconv_t>(-1))
+      open_.push_back({{to, from}, cd});  // NOLINT(performance-no-int-to-ptr)
+    return cd;
+  }
+
+ private:
+  std::vector<std::pair<std::pair<const char*, const char*>, iconv_t>> open_;
+};
+
 // One iconv conversion. On failure, `failedAt` is the input offset where it
 // stopped and the result is nullopt.
 std::optional<std::string> iconvert(std::string_view in, const char* to, const char* from,
                                     std::size_t& failedAt) {
-  iconv_t cd = iconv_open(to, from);
+  thread_local Converters converters;
+  iconv_t cd = converters.get(to, from);
   if (cd == reinterpret_cast<iconv_t>(-1)) {  // NOLINT(performance-no-int-to-ptr): iconv's error value
     failedAt = 0;
     return std::nullopt;
@@ -32,13 +59,18 @@ std::optional<std::string> iconvert(std::string_view in, const char* to, const c
   std::size_t inLeft = input.size();
   std::size_t outLeft = out.size();
   const std::size_t rc = iconv(cd, &inPtr, &inLeft, &outPtr, &outLeft);
-  iconv_close(cd);
   if (rc == static_cast<std::size_t>(-1) || rc > 0) {  // rc > 0: a lossy conversion
     failedAt = input.size() - inLeft;
     return std::nullopt;
   }
   out.resize(out.size() - outLeft);
   return out;
+}
+
+bool isAscii(std::string_view text) {
+  for (const char c : text)
+    if (static_cast<unsigned char>(c) >= 0x80) return false;
+  return true;
 }
 
 // The UTF-8 spelling of every Windows-1251 byte; the undefined 0x98 is U+FFFD.
@@ -108,6 +140,7 @@ std::optional<std::string> parseTarget(std::string_view raw, Target& target) {
 }
 
 Converted toCp1251(std::string_view utf8) {
+  if (isAscii(utf8)) return {std::string(utf8), ""};  // the same bytes in both
   std::size_t failedAt = 0;
   const std::optional<std::string> codePoints = iconvert(utf8, "UTF-32LE", "UTF-8", failedAt);
   if (!codePoints) return {"", "invalid UTF-8 at byte " + std::to_string(failedAt)};

@@ -17,6 +17,7 @@
 
 #include "audio/render.h"
 #include "service/audio_cache.h"
+#include "service/fingerprints.h"
 #include "service/metrics.h"
 
 namespace vela::service {
@@ -54,6 +55,7 @@ class Service {
   const Config& config() const { return config_; }
   Metrics& metrics() { return metrics_; }
   AudioCache& cache() { return cache_; }
+  FingerprintMemo& fingerprints() { return fingerprints_; }
 
   // The voice for a request's tag and mode; null when none is configured.
   std::shared_ptr<const audio::Voice> voiceFor(const std::string& tag, bool latin) const;
@@ -76,6 +78,7 @@ class Service {
   Config config_;
   Metrics metrics_;
   AudioCache cache_;
+  FingerprintMemo fingerprints_{4096};
   std::map<std::string, std::shared_ptr<const audio::Voice>> voices_;
   std::mutex promptsMutex_;
   std::map<std::pair<std::string, bool>, std::shared_ptr<const std::set<std::string>>> prompts_;
