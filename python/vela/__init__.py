@@ -3,6 +3,8 @@
     >>> import vela
     >>> vela.speak("ru", "21руб")
     ['двадцать', 'один', 'рубль']
+    >>> vela.read("ru", "-5xyz")
+    Reading(names=['минус'], status=<Status.PARTLY_SPOKEN: 1>, diagnostics=[], unknown_tag=False)
 
 Standard library only (ctypes). Texts and names are str; they travel to and
 from the library as Windows-1251. The library is found at $VELA_LIBRARY, then
@@ -12,12 +14,14 @@ to this source tree (build/libvela.so), then by the dynamic loader.
 
 import ctypes
 import ctypes.util
+import enum
 import os
+from typing import List, NamedTuple
 
-__all__ = ["speak", "library_path"]
+__all__ = ["speak", "read", "Reading", "Status", "library_path", "__version__"]
 
 _ENCODING = "cp1251"
-_JNI_ENTRY = "Java_com_talvik_ostra_macrosynthesis_vela_VelaMacroSynthesis_getSpaceDelimitedFilesWindows1251Encoded"
+_LATIN, _STRICT_TAG = 1, 2
 
 
 def _candidates():
@@ -48,10 +52,36 @@ def _load():
 
 
 library_path, _lib = _load()
-_lib.decodeBuffer.argtypes = [ctypes.c_char_p, ctypes.c_char_p, ctypes.POINTER(ctypes.c_void_p)]
-_lib.decodeBuffer.restype = ctypes.c_int
-_lib.decodeReleaseBuffer.argtypes = [ctypes.c_void_p]
-_lib.decodeReleaseBuffer.restype = None
+
+
+class _Reading(ctypes.Structure):
+    _fields_ = [("names", ctypes.c_void_p), ("diagnostics", ctypes.c_void_p),
+                ("status", ctypes.c_int), ("unknown_tag", ctypes.c_int)]
+
+
+_lib.vela_read.argtypes = [ctypes.c_char_p, ctypes.c_char_p, ctypes.c_uint, ctypes.POINTER(_Reading)]
+_lib.vela_read.restype = ctypes.c_int
+_lib.vela_reading_free.argtypes = [ctypes.POINTER(_Reading)]
+_lib.vela_reading_free.restype = None
+_lib.vela_version.argtypes = []
+_lib.vela_version.restype = ctypes.c_char_p
+
+__version__ = _lib.vela_version().decode("ascii")
+
+
+class Status(enum.IntEnum):
+    """How much of the text a reading speaks."""
+    SPOKEN = 0          # the whole text
+    PARTLY_SPOKEN = 1   # names, but part of the text was left unsaid or changed
+    NOT_SPOKEN = 2      # no name at all
+    FILE_NAMES = 3      # the text holds ".wav": passed through as names
+
+
+class Reading(NamedTuple):
+    names: List[str]        # prompt names, in order
+    status: Status
+    diagnostics: List[str]  # the library's complaints about the text, one a line
+    unknown_tag: bool       # the tag was unknown and English was used
 
 
 def _encode(what, text):
@@ -66,82 +96,41 @@ def _encode(what, text):
         raise ValueError(f"vela: {what} {text!r} holds {bad!r}, which Windows-1251 cannot write") from None
 
 
-def _names(answer):
-    return answer.decode(_ENCODING, errors="replace").split()
-
-
-def _decode_cyrillic(tag, text):
-    out = ctypes.c_void_p()
-    if _lib.decodeBuffer(tag, text, ctypes.byref(out)) != 0:
+def _read(tag, text, options):
+    raw = _Reading()
+    result = _lib.vela_read(_encode("tag", tag), _encode("text", text), options, ctypes.byref(raw))
+    if result == -3:
+        raise ValueError(f"vela: unknown language tag {tag!r}")
+    if result != 0:
         raise MemoryError("vela: out of memory")
     try:
-        return ctypes.string_at(out.value)
+        names = ctypes.string_at(raw.names).decode(_ENCODING, errors="replace")
+        diagnostics = ctypes.string_at(raw.diagnostics).decode(_ENCODING, errors="replace")
     finally:
-        _lib.decodeReleaseBuffer(out)
+        _lib.vela_reading_free(ctypes.byref(raw))
+    # The library joins names with single spaces: split there and nowhere else.
+    return Reading(names.split(" ") if names else [], Status(raw.status),
+                   diagnostics.splitlines(), bool(raw.unknown_tag))
 
 
-class _ByteArrays:
-    """The few byte-array functions of a JNI environment that the library's
-    Java entry uses, over Python byte strings: it lets this module ask for the
-    transliterated Russian names, which only that entry offers."""
+def read(tag, text, latin=False):
+    """The reading of `text` in the language `tag`: its names, how much of the
+    text they speak, the library's complaints, and whether the tag was unknown
+    (English is then used).
 
-    # Positions in the JNI function table.
-    GET_ARRAY_LENGTH, NEW_BYTE_ARRAY, GET_ELEMENTS, RELEASE_ELEMENTS, SET_REGION = 171, 176, 184, 192, 208
-    TABLE_SIZE = 234
-
-    def __init__(self):
-        self.arrays = {}
-        p, i32 = ctypes.c_void_p, ctypes.c_int32
-        self.callbacks = {
-            self.GET_ARRAY_LENGTH: ctypes.CFUNCTYPE(i32, p, p)(lambda env, a: len(self.arrays[a]) - 1),
-            self.NEW_BYTE_ARRAY: ctypes.CFUNCTYPE(p, p, i32)(self._new),
-            self.GET_ELEMENTS: ctypes.CFUNCTYPE(p, p, p, p)(lambda env, a, copy: ctypes.addressof(self.arrays[a])),
-            self.RELEASE_ELEMENTS: ctypes.CFUNCTYPE(None, p, p, p, i32)(lambda env, a, e, mode: None),
-            self.SET_REGION: ctypes.CFUNCTYPE(None, p, p, i32, i32, p)(self._set),
-        }
-        self.table = (ctypes.c_void_p * self.TABLE_SIZE)()
-        for index, callback in self.callbacks.items():
-            self.table[index] = ctypes.cast(callback, ctypes.c_void_p)
-        self.env = ctypes.c_void_p(ctypes.addressof(self.table))
-
-    def add(self, data):
-        handle = len(self.arrays) + 1
-        self.arrays[handle] = ctypes.create_string_buffer(data, len(data) + 1)
-        return handle
-
-    def _new(self, env, length):
-        return self.add(bytes(length))
-
-    def _set(self, env, a, start, length, source):
-        ctypes.memmove(ctypes.addressof(self.arrays[a]) + start, source, length)
-
-    def value(self, handle):
-        return self.arrays[handle].raw[:-1]
-
-
-_java_entry = getattr(_lib, _JNI_ENTRY)
-_java_entry.argtypes = [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint8]
-_java_entry.restype = ctypes.c_void_p
-
-
-def _decode_transliterated(tag, text):
-    arrays = _ByteArrays()
-    handle = _java_entry(ctypes.byref(arrays.env), None, arrays.add(text), arrays.add(tag), 1)
-    if not handle:
-        raise MemoryError("vela: out of memory")
-    return arrays.value(handle)
+    `tag` is exact and case-sensitive ("ru", "en", "uk", "kk", ...). `latin`
+    asks the Russian tags for Latin-transliterated prompt names. Raises
+    ValueError when tag or text holds a character Windows-1251 lacks, or a
+    zero character. Nothing is printed.
+    """
+    return _read(tag, text, _LATIN if latin else 0)
 
 
 def speak(tag, text, transliterated=False):
-    """The names of the prompts that speak `text` in the language `tag`.
+    """The names of the prompts that speak `text` in the language `tag`, in
+    order; an empty list when nothing can be spoken (never the text itself).
 
-    `tag` is exact and case-sensitive ("ru", "en", "uk", "kk", ...); an unknown
-    tag is spoken in English. `transliterated` asks the Russian tags for Latin
-    prompt names. A text the library cannot speak comes back as it is, split at
-    spaces, as from the C function decodeBuffer. Raises ValueError when tag or
-    text holds a character Windows-1251 lacks, or a zero character.
+    Raises ValueError for an unknown tag, and when tag or text holds a
+    character Windows-1251 lacks, or a zero character.
     """
-    tag_bytes, text_bytes = _encode("tag", tag), _encode("text", text)
-    if transliterated:
-        return _names(_decode_transliterated(tag_bytes, text_bytes))
-    return _names(_decode_cyrillic(tag_bytes, text_bytes))
+    return _read(tag, text, _STRICT_TAG | (_LATIN if transliterated else 0)).names

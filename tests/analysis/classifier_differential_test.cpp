@@ -8,11 +8,9 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,6 +23,7 @@
 #include "pipeline/text_decoder.h"
 #include "support/recording_grammar.h"
 #include "support/regex_rules.h"
+#include "support/text_corpus.h"
 
 namespace vela {
 namespace {
@@ -42,129 +41,6 @@ std::string escaped(const std::string& text) {
   }
   return shown.size() > 120 ? shown.substr(0, 120) + "...(" + std::to_string(text.size()) + " bytes)" : shown;
 }
-
-// Bytes that shape tokens, and bytes at the edges of the classes.
-const std::string kAlphabet = std::string("0123456789.,|-:\"#*()I xabzAZ") +
-                              std::string("\xC0\xDF\xE0\xFF\xB8\xA8\x7F\x80\x1F\x7E\x00\x09", 12);
-
-class Corpus {
- public:
-  explicit Corpus(std::uint64_t seed) : rng_(seed) {}
-
-  std::string next() {
-    // Long texts are few: the expressions backtrack over them in quadratic time.
-    if (below(32) == 0) return longDigits();
-    switch (below(8)) {
-      case 0:
-        return randomBytes();
-      case 1:
-        return fromAlphabet(below(12));
-      default:
-        return mutate(shape());
-    }
-  }
-
- private:
-  std::size_t below(std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(rng_); }
-  bool chance(int percent) { return below(100) < static_cast<std::size_t>(percent); }
-  char any(const std::string& bytes) { return bytes[below(bytes.size())]; }
-
-  std::string digits(std::size_t lo, std::size_t hi) {
-    std::string s(lo + below(hi - lo + 1), '0');
-    for (char& c : s) c = static_cast<char>('0' + below(10));
-    return s;
-  }
-  std::string letters() {
-    static const std::string kLetters = "abzAZ" + std::string("\xC0\xC5\xDF\xE0\xF0\xF3\xE1\xFF");
-    std::string s(1 + below(4), 'a');
-    for (char& c : s) c = any(kLetters);
-    return s;
-  }
-  std::string separator() { return std::string(1, any(".,|")); }
-  // A day or month: mostly one or two digits near the valid range.
-  std::string dayOrMonth() { return chance(80) ? std::to_string(below(40)) : digits(1, 3); }
-  std::string year() {
-    return (chance(80) ? std::string(chance(50) ? "19" : "20") : digits(2, 2)) + digits(2, 2);
-  }
-  std::string marked() { return chance(40) ? "(I)" : ""; }
-
-  // A token of one of the rules' shapes.
-  std::string shape() {
-    switch (below(10)) {
-      case 0:
-        return "-" + digits(0, 12) + (chance(50) ? separator() : "") + digits(0, 3) + letters();
-      case 1:
-        return digits(0, 12) + (chance(50) ? separator() : "") + digits(0, 3) + letters();
-      case 2:
-        return dayOrMonth() + "." + dayOrMonth() + "." + year() + marked();
-      case 3:
-        return (chance(10) ? std::string("0") : "") + dayOrMonth() + "." + dayOrMonth() + marked();
-      case 4: {
-        std::string s = digits(1, 6);
-        for (std::size_t i = below(4); i > 0; --i) s += "-" + digits(1, 4);
-        return s;
-      }
-      case 5: {
-        std::string keys(below(8), '0');
-        for (char& c : keys) c = any("0123456789#*");
-        return "\"" + keys + "\"";
-      }
-      case 6: {
-        std::string t = digits(1, 3) + ":" + digits(1, 3) + (chance(50) ? ":" + digits(1, 3) : "");
-        return chance(50) ? "\"" + t + "\"" : t;
-      }
-      case 7:
-        return digits(1, 20) + (chance(50) ? separator() + digits(1, 4) : "");
-      case 8:
-        return std::string(1, static_cast<char>(below(256)));
-      default:
-        return digits(1, 2) + "." + digits(1, 2);
-    }
-  }
-
-  // Near-misses: up to three bytes added, removed, swapped or replaced.
-  std::string mutate(std::string s) {
-    for (std::size_t n = below(4); n > 0; --n) {
-      const std::size_t at = below(s.size() + 1);
-      switch (below(4)) {
-        case 0:
-          s.insert(at, 1, any(kAlphabet));
-          break;
-        case 1:
-          if (at < s.size()) s.erase(at, 1);
-          break;
-        case 2:
-          if (at + 1 < s.size()) std::swap(s[at], s[at + 1]);
-          break;
-        default:
-          if (at < s.size()) s[at] = any(kAlphabet);
-          break;
-      }
-    }
-    return s;
-  }
-
-  std::string randomBytes() {
-    std::string s(below(24), '\0');
-    for (char& c : s) c = static_cast<char>(below(256));
-    return s;
-  }
-  std::string fromAlphabet(std::size_t length) {
-    std::string s(length, '\0');
-    for (char& c : s) c = any(kAlphabet);
-    return s;
-  }
-  // Up to 512 bytes: a digit run of 2 to 500 bytes (as many of each order of
-  // magnitude), sometimes with a token's tail.
-  std::string longDigits() {
-    static const char* const kTails[] = {"", "rub", ".5", ",5kb", "-1", ":00", "\"", "x"};
-    const std::size_t length = std::min<std::size_t>(500, std::size_t{2} << below(9));
-    std::string s = (chance(20) ? "-" : "") + digits(length / 2, length);
-    return s + kTails[below(std::size(kTails))];
-  }
-
-  std::mt19937_64 rng_;
-};
 
 // Stated examples, and the texts the runner's tests name.
 const std::string kExamples[] = {
@@ -335,8 +211,9 @@ TEST(ClassifierDifferentialTest, ShortTexts) {
     QuietStdout quiet;
     for (int c = 0; c < 256; ++c)
       check(std::string(1, static_cast<char>(c)), *grammars[c % grammars.size()], tally);
-    for (char a : kAlphabet) {
-      for (char b : kAlphabet) check(std::string{a, b}, *grammars[tally.texts % grammars.size()], tally);
+    for (char a : testing::kTokenAlphabet) {
+      for (char b : testing::kTokenAlphabet)
+        check(std::string{a, b}, *grammars[tally.texts % grammars.size()], tally);
     }
   }
   report(tally);
@@ -346,7 +223,7 @@ TEST(ClassifierDifferentialTest, GeneratedCorpus) {
   const std::size_t count = fromEnvironment("VELA_DIFFERENTIAL_TEXTS", 100000);
   const std::uint64_t seed = fromEnvironment("VELA_DIFFERENTIAL_SEED", 12);
   Tally tally;
-  Corpus corpus(seed);
+  testing::TextCorpus corpus(seed, {}, 100);
   const std::vector<IGrammar*> grammars = allGrammars();
   const auto start = std::chrono::steady_clock::now();
   {

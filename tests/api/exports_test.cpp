@@ -2,7 +2,6 @@
 
 #include <sstream>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "vela/vela.h"
@@ -57,36 +56,6 @@ TEST(DecodeBufferAsciiTest, Table) {
     EXPECT_EQ(files, c.files) << c.tag << "/" << c.text;
     EXPECT_EQ(log.str(), c.log) << c.tag << "/" << c.text;
   }
-}
-
-// Requests share only read-only tables: many threads get the answers one
-// thread gets.
-TEST(DecodeBufferTest, ThreadsGetIdenticalAnswers) {
-  const std::pair<const char*, std::string> requests[] = {
-      {"ru", "12.50\xF0\xF3\xE1"},
-      {"ru", "21.03.1999(I)"},
-      {"en", "1.05usd"},
-      {"en", "7:05"},
-      {"uk", "1.05.2015"},
-      {"xx", "15"},
-      {"ru", "0,5"},
-      {"ru", "5xyz"},
-  };
-  std::vector<std::string> expected;
-  for (const auto& [tag, text] : requests) expected.push_back(decode(tag, text));
-
-  std::vector<int> mismatches(8, 0);
-  std::vector<std::thread> threads;
-  for (int t = 0; t < 8; ++t) {
-    threads.emplace_back([&, t] {
-      for (int round = 0; round < 200; ++round) {
-        const std::size_t i = (t + round) % std::size(requests);
-        if (decode(requests[i].first, requests[i].second) != expected[i]) ++mismatches[t];
-      }
-    });
-  }
-  for (auto& th : threads) th.join();
-  EXPECT_EQ(mismatches, std::vector<int>(8, 0));
 }
 
 }  // namespace

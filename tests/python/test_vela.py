@@ -1,12 +1,15 @@
 """The Python module, run against the library built next to it (VELA_LIBRARY)."""
 
 import os
+import re
 import subprocess
 import sys
 
 import pytest
 
 import vela
+
+HEADER = os.path.join(os.path.dirname(__file__), "..", "..", "include", "vela", "vela.h")
 
 
 @pytest.mark.parametrize(
@@ -15,13 +18,10 @@ import vela
         ("ru", "21руб", False, ["двадцать", "один", "рубль"]),
         ("ru", "12.50rub", True, ["dvenadcat", "rublei", "pyatdesyat", "kopeek"]),
         ("RUSSIAN", "21", True, ["dvadcat", "odin"]),
-        ("en", "1.05usd", False, ["one", "dollar", "and", "five", "cents"]),
         ("en", "1.05usd", True, ["one", "dollar", "and", "five", "cents"]),  # only Russian has two modes
-        ("uk", "2", False, ["dva"]),
-        ("xx", "5", False, ["five"]),  # an unknown tag speaks English
-        ("ru", "  ab  ", False, ["ab"]),  # not a token: the text comes back
-        ("ru", "", False, []),
-        ("ru", "ё", False, ["ё"]),  # in the code page, though no token
+        ("ru", "  ab  ", False, []),  # no rule takes it: nothing, never the text
+        ("ru", "ё", False, []),  # a character with no word
+        ("ru", "a.wav\tb.wav", False, ["a.wav\tb.wav"]),  # file names pass through, split only at spaces
     ],
 )
 def test_speak(tag, text, transliterated, names):
@@ -29,17 +29,37 @@ def test_speak(tag, text, transliterated, names):
 
 
 @pytest.mark.parametrize(
-    "tag, text",
-    [("ru", "漢"), ("ru", "21₽"), ("日本", "5"), ("ru", "a\0b")],
+    "tag, text, latin, expected",
+    [
+        ("ru", "1.234", False, vela.Reading(["одна", "целая", "двадцать", "три", "сотых"],
+                                            vela.Status.PARTLY_SPOKEN, [], False)),
+        ("ru", "7:75", False, vela.Reading([], vela.Status.NOT_SPOKEN, ["wrong time (minutes) 7"], False)),
+        ("xx", "5", False, vela.Reading(["five"], vela.Status.SPOKEN, [], True)),
+        ("ru", "5", True, vela.Reading(["pyat"], vela.Status.SPOKEN, [], False)),
+    ],
 )
-def test_characters_the_code_page_lacks_are_value_errors(tag, text):
+def test_read(tag, text, latin, expected, capfd):
+    assert vela.read(tag, text, latin=latin) == expected
+    assert capfd.readouterr() == ("", "")  # complaints stay in the reading
+
+
+@pytest.mark.parametrize(
+    "tag, text",
+    [("ru", "漢"), ("ru", "21₽"), ("日本", "5"), ("ru", "a\0b"), ("xx", "5")],
+)
+def test_bad_tags_and_characters_are_value_errors(tag, text):
     with pytest.raises(ValueError):
         vela.speak(tag, text)
 
 
 def test_text_must_be_str():
     with pytest.raises(TypeError):
-        vela.speak("ru", b"21")
+        vela.read("ru", b"21")
+
+
+def test_version_is_the_headers():
+    macros = dict(re.findall(r"#define VELA_VERSION_(MAJOR|MINOR|PATCH) (\d+)", open(HEADER).read()))
+    assert vela.__version__ == "{MAJOR}.{MINOR}.{PATCH}".format(**macros)
 
 
 def test_loads_the_library_named_by_the_environment():

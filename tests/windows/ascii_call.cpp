@@ -11,10 +11,10 @@ namespace {
 using AsciiFn = bool (*)(const std::string&, const std::string&, std::vector<std::string>&, std::ostream&);
 }
 
-extern "C" void velaHostPut(void* answer, const char* bytes, std::size_t length);
+extern "C" void velaHostPut(const char* bytes, std::size_t length);
 
 extern "C" void velaHostCallAscii(void* function, const char* tag, std::size_t tagLength, const char* text,
-                                  std::size_t textLength, void* answer) {
+                                  std::size_t textLength) {
   const auto decode = reinterpret_cast<AsciiFn>(function);
   // A name already in the list shows that the export appends and never clears.
   std::vector<std::string> files{"(before)"};
@@ -23,5 +23,5 @@ extern "C" void velaHostCallAscii(void* function, const char* tag, std::size_t t
   std::string line = ok ? "ok=1 " : "ok=0 ";
   for (const std::string& file : files) line += "[" + file + "]";
   line += " log=" + log.str();
-  velaHostPut(answer, line.data(), line.size());
+  velaHostPut(line.data(), line.size());
 }

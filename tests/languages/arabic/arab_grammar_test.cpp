@@ -5,48 +5,13 @@
 
 #include <gtest/gtest.h>
 
-#include <span>
-#include <sstream>
 #include <string>
 
 #include "languages/arabic/arab_number.h"
-#include "vela/vela.h"
+#include "support/speak.h"
 
-namespace vela {
+namespace vela::testing {
 namespace {
-
-struct Reading {
-  const char* text;
-  const char* prompts;
-};
-
-std::string decodeRaw(const char* tag, const char* text) {
-  char* out = nullptr;
-  EXPECT_EQ(decodeBuffer(tag, text, &out), 0) << text;
-  std::string result = out != nullptr ? out : "";
-  decodeReleaseBuffer(out);
-  return result;
-}
-
-std::string joinNames(const std::string& names) {
-  std::string joined;
-  std::istringstream in(names);
-  for (std::string name; in >> name;) joined += (joined.empty() ? "" : " ") + name;
-  return joined;
-}
-
-void expectReadings(std::span<const Reading> cases) {
-  for (const char* tag : {"ar", "ARAB"})
-    for (const Reading& c : cases)
-      EXPECT_EQ(joinNames(decodeRaw(tag, c.text)), c.prompts) << tag << " " << c.text;
-}
-
-template <class Fn>
-std::string capturedStdout(Fn fn) {
-  ::testing::internal::CaptureStdout();
-  fn();
-  return ::testing::internal::GetCapturedStdout();
-}
 
 // Numbers with counted nouns.
 const Reading kNumbers[] = {
@@ -54,52 +19,38 @@ const Reading kNumbers[] = {
     {"1usd", "duulaar waahid"},
     {"2usd", "duulaaraan ^ithnaan"},
     {"1h", "saaca waahida"},
-    {"2h", "saacaataan ^ithnataan"},
     // 3-10: the opposite gender's form, then the plural; eight has its own
     // feminine nominative word.
     {"3usd", "thalaathat duulaaraat"},
-    {"3h", "thalaath saacaat"},
     {"8h", "thamaanii saacaat"},
     {"8num", "thamaaniyat ^arqaam"},
     {"10num", "cashrat ^arqaam"},
-    {"10min", "cashr daqaa^iq"},
     {"5eye", "khams wahdaat"},
     // 11-19: form A whatever the gender, then the singular; 15 is two prompts.
     {"11num", "^ahadacashara raqm"},
-    {"11h", "^ahadacashara saaca"},
     {"12num", "cithnaacashara raqm"},
     {"15num", "khamsatacashara khamsacashrata raqm"},
     // 20-99: units, " wa", the tens with "uun", the singular.
     {"20num", "^ishruun raqm"},
     {"21usd", "waahid wa ^ishruun duulaar"},
-    {"22h", "^ithnataan wa ^ishruun saaca"},
-    {"38h", "thamaanii wa thalaathuun saaca"},
-    {"45kb", "khamsa wa ^arba^uun kiiluubayt"},
     {"99num", "tisca wa tis^uun raqm"},
     // Hundreds: a round hundred glues "t" on, except 200; the rest after " wa".
     {"100num", "mi^at raqm"},
     {"200num", "mi^ataan raqm"},
     {"300num", "thalaathumi^at raqm"},
     {"101num", "mi^a wa raqm waahid"},
-    {"102h", "mi^a wa saacaataan ^ithnataan"},
-    {"115num", "mi^a wa khamsatacashara khamsacashrata raqm"},
     {"999usd", "tiscumi^a wa tisca wa tis^uun duulaar"},
     {"1234num", "^alf wa mi^ataan wa ^arbaca wa thalaathuun raqm"},
     // Scale groups: one or two is the noun alone, more the masculine group with
     // its noun; after a scale group the unit's noun follows alone.
-    {"1000num", "^alf raqm"},
     {"2000num", "^alfaan raqm"},
     {"3000num", "thalaathat aalaaf raqm"},
     {"11000num", "^ahadacashara ^alf raqm"},
-    {"100000num", "mi^at ^alf raqm"},
     {"1001num", "^alf wa raqm waahid"},
     {"2500usd", "^alfaan wa khamsumi^at duulaar"},
-    {"1000000usd", "milyuun duulaar"},
     {"2000000num", "milyuunaan raqm"},
     {"5000000num", "khamsat malaaiin raqm"},
     {"1000001num", "milyuun wa raqm waahid"},
-    {"1000000000num", "milyaar raqm"},
-    {"2000000000h", "milyaaraan saaca"},
     {"1002003004num", "milyaar wa milyuunaan wa thalaathat aalaaf wa ^arbacat ^arqaam"},
     // Ten digits and more reach speakCount with an empty digit list; only the
     // last twelve digits are spoken.
@@ -109,14 +60,12 @@ const Reading kNumbers[] = {
     {"5000000000000num", "laa_yuujadu raqm"},
     // Zero, unit words in capitals, unknown words, fractions, the minus word.
     {"0mes", "laa_yuujadu khabar"},
-    {"3H", "thalaath saacaat"},
     {"5USD", "khamsat duulaaraat"},
-    {"5xyz", "5xyz"},
     {"1.5h", "1.5h"},
     {"-5usd", "naqs khamsat duulaaraat"},
 };
 
-TEST(ArabGrammar, NumbersAndCountedNouns) { expectReadings(kNumbers); }
+TEST(ArabGrammar, NumbersAndCountedNouns) { expectReadings("ar", kNumbers); }
 
 // Money: "<major> wa <minor>", the fraction padded to the minor unit's places
 // and kept whole when longer; a zero part is left out.
@@ -126,123 +75,90 @@ const Reading kMoney[] = {
     {"1.2usd", "duulaar waahid wa ^ishruun siint"},
     {"2.02d", "duulaaraan ^ithnaan wa siintaan ^ithnaan"},
     {",5usd", "khamsuun siint"},
-    {"5.00usd", "khamsat duulaaraat"},
     {"0.00usd", "laa_yuujadu duulaar"},
-    {"0usd", "laa_yuujadu duulaar"},
     {"1.5dinar", "diinaar waahid wa khamsumi^at fils"},
-    {"5.5dinar", "khamsat danaaniir wa khamsumi^at fils"},
     {"2.005dzd", "diinaaraan ^ithnaan wa khamsat filsaat"},
     {"0.002DINAR", "filsaan ^ithnaan"},
     {"3.1234usd", "thalaathat duulaaraat wa ^alf wa mi^ataan wa ^arbaca wa thalaathuun siint"},
-    {"1000000.01usd", "milyuun duulaar wa siint waahid"},
-    {"-0.5usd", "naqs khamsuun siint"},
 };
 
-TEST(ArabGrammar, Money) { expectReadings(kMoney); }
+TEST(ArabGrammar, Money) { expectReadings("ar", kMoney); }
 
 // Dates: the day a masculine ordinal, the year a feminine cardinal, both in the
-// oblique case; every month name; month 00 says " tiscumi^a".
+// oblique case; month 00 says " tiscumi^a".
 const Reading kDates[] = {
     {"5.01.2005", "lkhaamis min yanaayir ^aam ^alfayn wa khams"},
-    {"1.01.2000", "l^awwal min yanaayir ^aam ^alfayn"},
     {"2.02.2002", "ththaanii min fibraayir ^aam ^alfayn wa ^ithnatayn"},
     {"21.03.1999", "l^awwal wa ^ishriin min maars ^aam ^alf wa tiscumi^a wa tisc wa tis^iin"},
-    {"4.04", "rraabic min ^abriil ^aam"},
     {"12.05", "ththaaniyacashar min maayuu ^aam"},
-    {"8.06.2008", "ththaamin min yuunyuu ^aam ^alfayn wa thamaan"},
-    {"7.07(I)", "ssaabic min yuulyuu ^aam"},
     {"10.08.2011", "lcaashir min ^ughustus ^aam ^alfayn wa ^ahadacashara"},
-    {"3.09.2003", "ththaalith min sabtambar ^aam ^alfayn wa thalaath"},
-    {"15.10.2020", "lkhaamiscashar min ^uktubr ^aam ^alfayn wa ^ishriin"},
     {"30.11.1900", "thalaathiin min nufambar ^aam ^alf wa tiscumi^at"},
-    {"12.12.2012", "ththaaniyacashar min diisambar ^aam ^alfayn wa ^ithnataycashrata"},
     {"31.12.1999(I)", "l^awwal wa thalaathiin min diisambar ^aam ^alf wa tiscumi^a wa tisc wa tis^iin"},
     {"5.00.2015", "lkhaamis min tiscumi^a ^aam ^alfayn wa khamsatacashara khamsacashrata"},
 };
 
-TEST(ArabGrammar, Dates) { expectReadings(kDates); }
+TEST(ArabGrammar, Dates) { expectReadings("ar", kDates); }
 
-// Clock times: every minutes row, the hour moved on only above 40, each period
+// Clock times: the minutes rows, the hour moved on only above 40, each period
 // of the day, 24 as midnight; h:mm:ss says nothing.
 const Reading kClockTimes[] = {
     {"7:00", "^assaaca ssaabica sabaahan"},
     {"7:01", "^assaaca ssaabica wa daqiiqa waahida sabaahan"},
     {"7:02", "^assaaca ssaabica wa daqiiqataan ^ithnataan sabaahan"},
     {"7:05", "^assaaca ssaabica wa khams daqaa^iq sabaahan"},
-    {"7:08", "^assaaca ssaabica wa thamaanii daqaa^iq sabaahan"},
     {"7:14", "^assaaca ssaabica wa ^arbacatacashara daqiiqa sabaahan"},
     {"7:15", "^assaaca ssaabica wa rrubc sabaahan"},
-    {"7:16", "^assaaca ssaabica wa sittatacashara daqiiqa sabaahan"},
     {"7:20", "^assaaca ssaabica wa ththulth sabaahan"},
     {"7:21", "^assaaca ssaabica wa waahida wa ^ishruun daqiiqa sabaahan"},
-    {"7:24", "^assaaca ssaabica wa ^arbac wa ^ishruun daqiiqa sabaahan"},
     {"7:25", "^assaaca ssaabica wa nnisf ^illaa khams daqaa^iq sabaahan"},
     {"7:29", "^assaaca ssaabica wa nnisf ^illaa daqiiqa waahida sabaahan"},
     {"7:30", "^assaaca ssaabica wa nnisf sabaahan"},
-    {"7:31", "^assaaca ssaabica wa nnisf wa daqiiqa waahida sabaahan"},
     {"7:39", "^assaaca ssaabica wa nnisf wa tisc daqaa^iq sabaahan"},
     {"7:40", "^assaaca ssaabica ^illaa thulth sabaahan"},
     {"7:41", "^assaaca ththaamina ^illaa tiscatacashara daqiiqa sabaahan"},
-    {"7:44", "^assaaca ththaamina ^illaa sittatacashara daqiiqa sabaahan"},
     {"7:45", "^assaaca ththaamina ^illaa rubc sabaahan"},
-    {"7:46", "^assaaca ththaamina ^illaa ^arbacatacashara daqiiqa sabaahan"},
-    {"7:50", "^assaaca ththaamina ^illaa cashr daqaa^iq sabaahan"},
     {"7:58", "^assaaca ththaamina ^illaa daqiiqataan ^ithnataan sabaahan"},
     {"7:59", "^assaaca ththaamina ^illaa daqiiqa waahida sabaahan"},
     {"00:00", "^assaaca ththaaniyacashrata fi_muntasafi_llayl"},
     {"1:00", "^assaaca lwaahida bacd_muntasafi_llayl"},
     {"4:10", "^assaaca rraabica wa cashr daqaa^iq bacd_muntasafi_llayl"},
-    {"4:50", "^assaaca lkhaamisa ^illaa cashr daqaa^iq sabaahan"},
-    {"09:30", "^assaaca ttaasica wa nnisf sabaahan"},
     {"11:00", "^assaaca lhadiyacashrata sabaahan"},
     {"11:41", "^assaaca ththaaniyacashrata ^illaa tiscatacashara daqiiqa zuhran"},
-    {"12:15", "^assaaca ththaaniyacashrata wa rrubc zuhran"},
     {"13:00", "^assaaca lwaahida bacd_zzuhr"},
     {"14:45", "^assaaca ththaalitha ^illaa rubc bacd_zzuhr"},
-    {"16:00", "^assaaca rraabica bacd_zzuhr"},
     {"17:00", "^assaaca lkhaamisa masaa^an"},
-    {"23:00", "^assaaca lhadiyacashrata masaa^an"},
     {"23:50", "^assaaca ththaaniyacashrata ^illaa cashr daqaa^iq fi_muntasafi_llayl"},
     {"24:00", "^assaaca ththaaniyacashrata fi_muntasafi_llayl"},
     {"24:30", "^assaaca ththaaniyacashrata wa nnisf fi_muntasafi_llayl"},
     {"7:05:09", "7:05:09"},
 };
 
-TEST(ArabGrammar, ClockTimes) { expectReadings(kClockTimes); }
+TEST(ArabGrammar, ClockTimes) { expectReadings("ar", kClockTimes); }
 
 // Quoted spans: hours and minutes with their nouns and no " wa" between; a
 // zero part is left out, nothing at all is " muntasafi_llayl".
 const Reading kDurations[] = {
     {"\"0:00\"", "muntasafi_llayl"},
     {"\"2:00\"", "saacaataan ^ithnataan"},
-    {"\"0:05\"", "khams daqaa^iq"},
     {"\"1:30\"", "saaca waahida thalaathuun daqiiqa"},
-    {"\"3:10\"", "thalaath saacaat cashr daqaa^iq"},
     {"\"125:30\"", "mi^a wa khams wa ^ishruun saaca thalaathuun daqiiqa"},
-    {"\"1000000:00\"", "milyuun saaca"},
-    {"\"0:00:00\"", "muntasafi_llayl"},
     {"\"0:00:05\"", "khams thawaanin"},
     {"\"1:00:01\"", "saaca waahida thaaniya waahida"},
-    {"\"1:02:00\"", "saaca waahida daqiiqataan ^ithnataan"},
     {"\"0:02:03\"", "daqiiqataan ^ithnataan thalaath thawaanin"},
 };
 
-TEST(ArabGrammar, Durations) { expectReadings(kDurations); }
+TEST(ArabGrammar, Durations) { expectReadings("ar", kDurations); }
 
 // Digit strings and single characters; a character without a word gives the
 // caller's text back.
 const Reading kDigitsAndCharacters[] = {
     {"3456789", "thalaatha ^arbaca khamsa sitta sabca thamaaniya tisca"},
     {"1,5", "waahid khamsa"},
-    {"*", "calaamatu_nnajma"},
     {"#", "shabaka"},
-    {"?", "calaamatu_l^istifhaam"},
-    {"_", "calaamatu_khatti_ttahtii"},
-    {"%", "calaama_mi^awiya"},
     {"a", "a"},
 };
 
-TEST(ArabGrammar, DigitStringsAndCharacters) { expectReadings(kDigitsAndCharacters); }
+TEST(ArabGrammar, DigitStringsAndCharacters) { expectReadings("ar", kDigitsAndCharacters); }
 
 // The exact bytes: glued endings, the space glued after 3-10 before a feminine
 // noun, the space after every digit-string word, characters without one.
@@ -252,20 +168,15 @@ const Reading kRawBytes[] = {
     {"8h", " thamaanii  saacaat"},
     {"21usd", " waahid wa ^ishruun duulaar"},
     {"100num", " mi^at raqm"},
-    {"200num", " mi^ataan raqm"},
     {"-1h", " naqs saaca waahida"},
     {"5.01.2005", " lkhaamis min yanaayir ^aam ^alfayn wa khams "},
-    {"21.01", " l^awwal wa ^ishriin min yanaayir ^aam"},
     {"7:05", " ^assaaca ssaabica wa khams  daqaa^iq sabaahan"},
     {"2005", " ^ithnaan  sifr  sifr  khamsa "},
     {"1-2", " waahid   ^ithnaan "},
     {"\"12#*\"", "  waahid  ^ithnaan    "},
-    {"#", " shabaka"},
 };
 
-TEST(ArabGrammar, RawBytes) {
-  for (const Reading& c : kRawBytes) EXPECT_EQ(decodeRaw("ar", c.text), c.prompts) << c.text;
-}
+TEST(ArabGrammar, RawBytes) { expectRawReadings("ar", kRawBytes); }
 
 // Out-of-range parts print their diagnostic and keep what came before.
 TEST(ArabGrammar, Diagnostics) {
@@ -326,4 +237,4 @@ TEST(ArabGrammar, DirectCalls) {
 }
 
 }  // namespace
-}  // namespace vela
+}  // namespace vela::testing

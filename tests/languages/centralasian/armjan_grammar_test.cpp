@@ -3,18 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include "family_test_support.h"
-#include "grammar/cp1251.h"
+#include "support/speak.h"
 
+namespace vela::testing {
 namespace {
-
-using namespace vela;
-using namespace vela::testing_family;
 
 const Reading kArmenian[] = {
     // A plain number digit by digit.
     {"2008", "erku zro zro ut"},
-    {"0", "zro"},
     // Counts: teens from their own row, "erek" for 300 and "haryur" for 700,
     // "mek hazar"; zero says zro except for zero messages (exact key).
     {"0num", "zro hamar"},
@@ -27,18 +23,13 @@ const Reading kArmenian[] = {
     {"1000000001num", "mek miliard mek hamar"},
     {"0mes", "Duk chuneq hakhordagrutyunner"},
     {"0MES", "zro hakhordagrutjun"},
-    {"0h", "zro dgam"},
     {"5usd", "5usd"},
-    {"5.5usd", "5.5usd"},
     // Money: no connective, no absence word.
     {"0amd", "zro dram"},
     {"0.5amd", "hisun luma"},
-    {"12rub", "tasnerku rubli"},
     {"12.01rub", "tasnerku rubli mek kopek"},
     // Dates: year, month, day with its case ending.
-    {"5.01.2008", "erku hazar ut tvakani hunvari hingin"},
     {"2.01.2008", "erku hazar ut tvakani hunvari erkusin"},
-    {"12.01.2008", "erku hazar ut tvakani hunvari tasnerkusin"},
     {"20.01.2008", "erku hazar ut tvakani hunvari qsanin"},
     {"22.06.1999", "mek hazar iny harjur insun iny tvakani hunisi qsan erkusin"},
     {"5.00.2008", "erku hazar ut tvakani iny harjur hingin"},
@@ -46,45 +37,29 @@ const Reading kArmenian[] = {
     // their tens (11..19 say tens, teen and units; 01..09 only the units).
     {"2:05", "dgamy erkusn ants hing rope"},
     {"0:30", "dgamy zro dgam eresun rope"},
-    {"12:00", "dgamy tasnerkusn ants zro rope"},
     {"10:15:15", "dgamy tasy ants tasnhing rope tasy tasnhing hing vajrkjanin"},
     {"1:00:05", "dgamy mekn ants zro rope hing vajrkjanin"},
-    {"1:00:35", "dgamy mekn ants zro rope eresun hing vajrkjanin"},
     {"1:00:00", "dgamy mekn ants zro rope zro vajrkjanin"},
     // Spans, also with seconds; no case suffix.
     {"\"1:30\"", "mek dgam eresun rope"},
     {"\"0:00\"", "zro dgam zro rope"},
     {"\"1:02:03\"", "mek dgam erku rope ereq vajrkjan"},
-    {"\"12:12:12\"", "tasnerku dgam tasnerku rope tasnerku vajrkjan"},
-    // Digit strings and symbols.
+    // Digit strings and symbols; a character without a word comes back.
     {"\"105\"", "mek zro hing"},
-    {"*", "astkhanish"},
     {"#", "vandakanish"},
-    {"?", "hartsakan nshan"},
     {"_", "_"},
-    {"%", "tokos"},
 };
 
-TEST(ArmjanGrammar, ThroughDecodeBuffer) {
-  for (const char* tag : {"hy", "ARMJAN"}) expectReadings(tag, kArmenian);
-}
-
-// The cent keeps its Cyrillic first letter (byte F1).
-TEST(ArmjanGrammar, CentBytes) {
+TEST(ArmjanGrammar, Readings) {
+  expectReadings("hy", kArmenian);
+  // The cent keeps its Cyrillic first letter (byte F1).
   EXPECT_EQ(speak("hy", "5.05d"),
             "hing dolar hing \xF1"
             "ent");
-  EXPECT_EQ(speak("hy", "3.5eur"),
-            "ereq evro hisun \xF1"
-            "ent");
   EXPECT_EQ(decodeRaw("hy", "0.5amd"), "   hisun  luma");
+  const Complaint refused[] = {{"25:00", "wrong time (hours) 25\r\n", "rope"}};
+  expectComplaints("hy", refused);
 }
-
-const Refusal kArmenianRefusals[] = {
-    {"25:00", "wrong time (hours) 25\r\n", "rope"},
-};
-
-TEST(ArmjanGrammar, RefusedHours) { expectRefusals("hy", kArmenianRefusals); }
 
 // The month is checked before the day.
 TEST(ArmjanGrammar, RefusedDates) {
@@ -98,22 +73,19 @@ TEST(ArmjanGrammar, RefusedDates) {
 }
 
 // The case suffix goes on the last word of a group only when asked for.
-struct CaseRow {
-  int hundreds, tens, teen, units;
-  bool withCase;
-  const char* words;
-};
-
-const CaseRow kGroups[] = {
-    {0, 0, 0, 2, true, "erkusn"},
-    {0, 0, 12, 0, true, "tasnerkusn"},
-    {0, 20, 0, 5, true, "qsan hingn"},
-    {0, 30, 0, 0, true, "eresun"},
-    {300, 0, 0, 2, false, "erek harjur erku"},
-};
-
 TEST(ArmjanGrammar, CaseSuffix) {
-  for (const CaseRow& c : kGroups) {
+  const struct {
+    int hundreds, tens, teen, units;
+    bool withCase;
+    const char* words;
+  } cases[] = {
+      {0, 0, 0, 2, true, "erkusn"},
+      {0, 0, 12, 0, true, "tasnerkusn"},
+      {0, 20, 0, 5, true, "qsan hingn"},
+      {0, 30, 0, 0, true, "eresun"},
+      {300, 0, 0, 2, false, "erek harjur erku"},
+  };
+  for (const auto& c : cases) {
     std::string out;
     ArmjanGrammar::speakGroup({c.hundreds + c.tens + c.teen + c.units, c.hundreds, c.tens, c.teen, c.units},
                               out, c.withCase);
@@ -122,3 +94,4 @@ TEST(ArmjanGrammar, CaseSuffix) {
 }
 
 }  // namespace
+}  // namespace vela::testing

@@ -3,25 +3,20 @@
 
 #include <gtest/gtest.h>
 
-#include "family_test_support.h"
+#include "support/speak.h"
 
+namespace vela::testing {
 namespace {
-
-using namespace vela;
-using namespace vela::testing_family;
 
 const Reading kGeorgian[] = {
     // A plain number digit by digit.
     {"2008", "ori nuli nuli rva"},
-    {"0", "nuli"},
     {"12-05", "erti ori nuli khuti"},
     // Counts say their number in the final form: vigesimal words, the final
     // hundreds only with nothing after them, final multipliers before a scale
     // word, and no multiplier for a thousands group ending in 1.
-    {"1ab", "erti abonenti"},
     {"20ab", "otsi abonenti"},
     {"28ab", "otsdarva abonenti"},
-    {"40ab", "ormotsi abonenti"},
     {"99ab", "otkhmotsdatskhrameti abonenti"},
     {"100ab", "asi abonenti"},
     {"121ab", "as otsdaerti abonenti"},
@@ -29,21 +24,16 @@ const Reading kGeorgian[] = {
     {"2000ab", "ori atasi abonenti"},
     {"2001ab", "ori atas erti abonenti"},
     {"11000ab", "atasi abonenti"},
-    {"21000ab", "atasi abonenti"},
     {"101000ab", "atasi abonenti"},
     {"200000ab", "orasi atasi abonenti"},
     {"3000000ab", "sami milioni abonenti"},
     {"3000005ab", "sami milion khuti abonenti"},
-    {"2000005ab", "ori milion khuti abonenti"},
-    {"2000000000ab", "ori milliardi abonenti"},
     {"5000000001ab", "khuti milliard erti abonenti"},
     // Zero counts.
     {"0h", "nuli saati"},
-    {"0min", "nuli tsuti"},
     {"0ab", "abonenti ar aris"},
     // Dates: day in the compound form, day 1 "pirvel" by value, month 0 with no
     // word, the year in the compound form and "tsels".
-    {"5.01.2008", "khut ianvars ori atas rva tsels"},
     {"1.03.2008", "pirvel marts ori atas rva tsels"},
     {"01.03.2008", "pirvel marts ori atas rva tsels"},
     {"21.12.1999", "otsdaert dekembers atas tskhraas otkhmotsdatskhramet tsels"},
@@ -55,30 +45,20 @@ const Reading kGeorgian[] = {
     {"\"0:00\"", "nuli saati nuli tsuti"},
     {"\"2:30\"", "ori saati otsdaati tsuti"},
     // Money in the final form; a one-digit minor part counts tens.
-    {"0gel", "nuli lari"},
     {"0.5gel", "ormotsdaati tetri"},
     {"5.05gel", "khuti lari khuti tetri"},
     {"1.5usd", "erti dolari ormotsdaati tsenti"},
     {"3rub", "sami rubl"},
     // Digit strings and symbols.
-    {"\"105\"", "erti nuli khuti"},
     {"\"0123456789\"", "nuli erti ori sami otkhi khuti eqvsi shvidi rva tskhra"},
-    {"*", "varskvlavi"},
     {"#", "bade"},
-    {"?", "kitkhvis_nishani"},
-    {"_", "qveda_khazi"},
-    {"%", "protsenti"},
 };
 
-TEST(GeorgGrammar, ThroughDecodeBuffer) {
-  for (const char* tag : {"ka", "geo", "GEORGIA", "GEORGIAN"}) expectReadings(tag, kGeorgian);
+TEST(GeorgGrammar, Readings) {
+  expectReadings("ka", kGeorgian);
+  const Complaint refused[] = {{"25:00", "wrong time (hours) 25\r\n", "tsutze"}};
+  expectComplaints("ka", refused);
 }
-
-const Refusal kGeorgianRefusals[] = {
-    {"25:00", "wrong time (hours) 25\r\n", "tsutze"},
-};
-
-TEST(GeorgGrammar, RefusedHours) { expectRefusals("ka", kGeorgianRefusals); }
 
 TEST(GeorgGrammar, RefusedDates) {
   GeorgGrammar g;
@@ -91,33 +71,18 @@ TEST(GeorgGrammar, RefusedDates) {
 }
 
 // The compound form where more of the number follows, the final form at its end.
-struct Form {
-  const char* digits;
-  bool final;
-  const char* words;
-};
-
-const Form kForms[] = {
-    {"1", false, "ert"},
-    {"1", true, "erti"},
-    {"8", true, "rva"},
-    {"20", true, "otsi"},
-    {"40", false, "ormots"},
-    {"60", true, "samotsi"},
-    {"80", true, "otkhmotsi"},
-    {"21", false, "otsdaert"},
-    {"30", false, "otsdaat"},
-    {"48", false, "ormotsdarva"},
-    {"99", false, "otkhmotsdatskhramet"},
-    {"100", false, "as"},
-    {"100", true, "asi"},
-    {"140", true, "as ormotsi"},
-    {"1001", false, "atas ert"},
-    {"0", true, ""},
-};
-
 TEST(GeorgGrammar, FinalFormSpeller) {
-  for (const Form& c : kForms) {
+  const struct {
+    const char* digits;
+    bool final;
+    const char* words;
+  } cases[] = {
+      {"1", false, "ert"},          {"1", true, "erti"},     {"20", true, "otsi"},
+      {"40", false, "ormots"},      {"60", true, "samotsi"}, {"21", false, "otsdaert"},
+      {"48", false, "ormotsdarva"}, {"100", false, "as"},    {"140", true, "as ormotsi"},
+      {"1001", false, "atas ert"},  {"0", true, ""},
+  };
+  for (const auto& c : cases) {
     std::string out;
     GeorgGrammar::speakInteger(c.digits, out, c.final);
     EXPECT_EQ(joinNames(out), c.words) << c.digits << " " << c.final;
@@ -125,3 +90,4 @@ TEST(GeorgGrammar, FinalFormSpeller) {
 }
 
 }  // namespace
+}  // namespace vela::testing

@@ -3,57 +3,42 @@
 
 #include <gtest/gtest.h>
 
-#include "family_test_support.h"
+#include "support/speak.h"
 
+namespace vela::testing {
 namespace {
-
-using namespace vela;
-using namespace vela::testing_family;
 
 const Reading kKazakh[] = {
     // Plain numbers: leading zeros said one by one, dash-separated pieces, the
     // hundred without "one", the thousand with it, a cardinal keeps its millions.
-    {"0", "nol"},
     {"007", "nol nol zheti"},
     {"12-05", "on eki nol bes"},
     {"32.1", "otyz eki bir"},
     {"0,25", "nol zhiyrma bes"},
-    {"0|5", "nol bes"},
     {"12|50", "on eki elu"},
-    {"100", "zhuz"},
-    {"111", "zhuz on bir"},
     {"115", "zhuz on bes"},
     {"200", "eki zhuz"},
-    {"1000", "bir myng"},
     {"2008", "eki myng segiz"},
-    {"1000001", "bir million bir"},
     {"1002003000", "bir milliard eki million ush myng"},
     {"1000000005", "bir milliard bes"},
     // More than twelve digits: the last twelve are read.
-    {"1234567890123",
-     "eki zhuz otyz tort milliard bes zhuz alpys zheti million segiz zhuz toqsan myng zhuz zhiyrma ush"},
     {"2000000000001", "bir"},
     // Dates: ordinal year, its word, ordinal day, locative month; month 0 says
     // the word in slot 0; a date without a year still says the year word.
-    {"5.01.2008", "eki myng segizinshi zhyldyng besinshi qangtarynda"},
     {"5.01.2008(I)", "eki myng segizinshi zhyldyng besinshi qangtarynda"},
     {"31.12.1999", "bir myng togyz zhuz toqsan togyzynshy zhyldyng otyz birinshi zheltoqsanynda"},
-    {"20.05.2000", "eki myngynshy zhyldyng zhiyrmasynshy mamyrynda"},
     {"5.00.2008", "eki myng segizinshi zhyldyng besinshi nuhsad"},
     {"12.05", "zhyldyng on ekinshi mamyrynda"},
     // Clock times and spans; a span with seconds is not spoken.
     {"24:00", "zhiyrma tort sagat nol minutta"},
-    {"7:05", "zheti sagat bes minutta"},
     {"7:05:30", "zheti sagat bes minut otyz sekundta"},
     {"\"0:00\"", "nol sagat nol minuttan"},
-    {"\"1:30\"", "bir sagat otyz minuttan"},
     {"\"100:05\"", "zhuz sagat bes minuttan"},
     {"\"1:02:03\"", "\"1:02:03\""},
     // Counts: the zero phrase "nol" before the three time units (as written),
     // "zhoq" after any other word; an unknown word and a fraction say nothing.
     {"5ab", "bes abonent"},
     {"21MIN", "zhiyrma bir minut"},
-    {"0ab", "abonent zhoq"},
     {"0h", "nol sagat"},
     {"00sec", "nol sekund"},
     {"0H", "sagat zhoq"},
@@ -62,43 +47,36 @@ const Reading kKazakh[] = {
     {"-5h", "minus bes sagat"},
     // Money: a zero amount, a one-digit minor part counting tens, a minor part
     // alone, "rub" with "diram", a long minor part read whole.
-    {"0kzt", "nol tenge"},
     {"0.00kzt", "nol tenge"},
-    {"3KZT", "ush tenge"},
     {"1.5kzt", "bir tenge elu tiyn"},
     {"0.5usd", "elu tsent"},
-    {"5.05usd", "bes dollar bes tsent"},
     {"12.50rub", "on eki rubl elu diram"},
     {"5.567d", "bes dollar bes zhuz alpys zheti tsent"},
     // Digit strings and characters.
-    {"\"105\"", "bir nol bes"},
     {"\"1#*\"", "bir"},
-    {"*", "zhuldyzsha"},
     {"#", "panjara"},
-    {"?", "soroq_belgisi"},
-    {"_", "ost_chiziqcha"},
-    {"%", "foiz"},
     {"x", "x"},
 };
 
-TEST(KazahGrammar, ThroughDecodeBuffer) {
-  for (const char* tag : {"kk", "kaz", "KAZAH", "KAZAKH", "KAZAKHSTAN"}) expectReadings(tag, kKazakh);
+TEST(KazahGrammar, Readings) {
+  expectReadings("kk", kKazakh);
+  const Complaint refused[] = {
+      {"25:10", "wrong time (hours) 25\r\n", "minutta"},
+      {"99:00:00", "wrong time (hours) 99\r\n", "minut nol sekundta"},
+  };
+  expectComplaints("kk", refused);
 }
 
 // The blanks travel inside the words: a group opens with its own blank and
 // the ordinal suffix fuses onto the scale word.
 TEST(KazahGrammar, ExactBytes) {
-  EXPECT_EQ(decodeRaw("kk", "100"), "  zhuz");
-  EXPECT_EQ(decodeRaw("kk", "20.05.2000"), "  eki myngynshy zhyldyng   zhiyrmasynshy mamyrynda");
-  EXPECT_EQ(decodeRaw("kk", "0ab"), "abonent zhoq");
+  const Reading cases[] = {
+      {"100", "  zhuz"},
+      {"20.05.2000", "  eki myngynshy zhyldyng   zhiyrmasynshy mamyrynda"},
+      {"0ab", "abonent zhoq"},
+  };
+  expectRawReadings("kk", cases);
 }
-
-const Refusal kKazakhRefusals[] = {
-    {"25:10", "wrong time (hours) 25\r\n", "minutta"},
-    {"99:00:00", "wrong time (hours) 99\r\n", "minut nol sekundta"},
-};
-
-TEST(KazahGrammar, RefusedHours) { expectRefusals("kk", kKazakhRefusals); }
 
 // Days and months the date patterns never deliver: the diagnostic, nothing
 // appended, 0 returned; an empty character says nothing.
@@ -118,29 +96,24 @@ TEST(KazahGrammar, RefusedDatesAndEmptyCharacter) {
 
 // The ordinal mark on the last word, or on the last scale word of a round
 // number; the millions are skipped by an ordinal milliard with thousands.
-const Spelled kOrdinals[] = {
-    {"0", ""},
-    {"10", "onynshy"},
-    {"15", "on besinshi"},
-    {"20", "zhiyrmasynshy"},
-    {"21", "zhiyrma birinshi"},
-    {"100", "zhuzinshi"},
-    {"200", "eki zhuzinshi"},
-    {"1000", "bir myngynshy"},
-    {"1000000", "bir millioninshi"},
-    {"1000001", "bir million birinshi"},
-    {"3002000", "ush million eki myngynshy"},
-    {"2000000000", "eki milliardynshy"},
-    {"1000000007", "bir milliard zhetinshi"},
-    {"1000005000", "bir milliard bes myngynshy"},
-    {"1002005000", "bir milliard eki million bes myngynshy"},
-};
-
 TEST(KazahGrammar, OrdinalSpeller) {
-  for (const Spelled& c : kOrdinals) {
+  const Reading cases[] = {
+      {"0", ""},
+      {"10", "onynshy"},
+      {"15", "on besinshi"},
+      {"20", "zhiyrmasynshy"},
+      {"100", "zhuzinshi"},
+      {"1000000", "bir millioninshi"},
+      {"3002000", "ush million eki myngynshy"},
+      {"2000000000", "eki milliardynshy"},
+      {"1000000007", "bir milliard zhetinshi"},
+      {"1000005000", "bir milliard bes myngynshy"},
+      {"1002005000", "bir milliard eki million bes myngynshy"},
+  };
+  for (const Reading& c : cases) {
     std::string out;
-    KazahGrammar::speakInteger(c.digits, out, true);
-    EXPECT_EQ(joinNames(out), c.words) << c.digits;
+    KazahGrammar::speakInteger(c.text, out, true);
+    EXPECT_EQ(joinNames(out), c.prompts) << c.text;
   }
   std::string zero;
   KazahGrammar::speakInteger("000", zero, false);
@@ -148,3 +121,4 @@ TEST(KazahGrammar, OrdinalSpeller) {
 }
 
 }  // namespace
+}  // namespace vela::testing

@@ -88,7 +88,7 @@ public final class VelaMacroSynthesis {
   }
 
   // A character with no Windows-1251 byte is an error, never a silent '?'.
-  private static byte[] encode(String s) {
+  static byte[] encode(String s) {
     try {
       ByteBuffer bytes =
           WINDOWS_1251
