@@ -37,7 +37,7 @@ def read_response(sock):
     return status, headers, body
 
 
-def exchange(server, raw, timeout=10):
+def exchange(server, raw, timeout=60):  # the first look at a language's prompts takes a while under ASan
     with socket.create_connection(("127.0.0.1", server.port), timeout=timeout) as sock:
         sock.sendall(raw)
         return read_response(sock)
@@ -257,7 +257,7 @@ def test_sigterm_under_load_loses_no_answered_request(start_server):
 
 
 def wrk(url, seconds, connections=256):
-    out = subprocess.run(["wrk", "-t2", "-c%d" % connections, "-d%ds" % seconds, "--latency", url],
+    out = subprocess.run(["wrk", "-t2", "-c%d" % connections, "-d%ds" % seconds, "--timeout", "10s", "--latency", url],
                          check=True, capture_output=True, text=True).stdout
     requests = int(re.search(r"(\d+) requests in", out).group(1))
     return requests, out
