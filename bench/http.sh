@@ -7,14 +7,17 @@
 #   3. vela, GET /v1/audio of the same text, 8 kHz mu-law WAV, warm cache
 # Prints one line per target and the ratio vela /v1/read : nginx.
 #
-#   bench/http.sh [SECONDS] [CONNECTIONS]     (default 10 s, 64 connections)
+#   bench/http.sh [SECONDS] [CONNECTIONS] [ROUNDS]   (default 10 s, 64 connections, 3 rounds)
 #
+# nginx and vela take turns, ROUNDS times, so a slow spell of a shared machine
+# falls on both; each line is the median of its rounds.
 # Needs build/vela (cmake --build build --target vela); installs wrk and nginx
 # through scripts/setup.sh --http-bench when they are missing.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-10}
 connections=${2:-64}
+rounds=${3:-3}
 threads=${WRK_THREADS:-2}
 vela=${VELA:-build/vela}
 
@@ -73,20 +76,38 @@ pids+=($!)
 for _ in $(seq 50); do curl -sf -o /dev/null "http://127.0.0.1:$nginx_port/read.json" && break; sleep 0.1; done
 curl -sf -o /dev/null "$audio_url"  # warm the cache
 
-# "Requests/sec:  12345.67" and the 99% latency line of wrk --latency.
-measure() {
-  local name=$1 url=$2 out
-  out=$(wrk -t"$threads" -c"$connections" -d"${seconds}s" --latency "$url")
-  local rps p99 errors
-  rps=$(awk '/Requests\/sec/ {print $2}' <<<"$out")
-  p99=$(awk '$1 == "99%" {print $2}' <<<"$out")
-  errors=$(grep -E 'Socket errors|Non-2xx' <<<"$out" | tr '\n' ' ' || true)
-  printf '%-28s %12s req/s   p99 %8s   %s\n' "$name" "$rps" "$p99" "${errors:-no errors}" >&2
-  echo "$rps"
+# One wrk run: "RPS P99 ERRORS" from wrk --latency's "Requests/sec" and 99% lines.
+run_wrk() {
+  local out
+  out=$(wrk -t"$threads" -c"$connections" -d"${seconds}s" --latency "$1")
+  local errors
+  errors=$(grep -cE 'Socket errors|Non-2xx' <<<"$out" || true)
+  echo "$(awk '/Requests\/sec/ {print $2}' <<<"$out") $(awk '$1 == "99%" {print $2}' <<<"$out") $errors"
 }
 
-echo "wrk -t$threads -c$connections -d${seconds}s, loopback, $(nproc) cores" >&2
-nginx_rps=$(measure "nginx static read.json" "http://127.0.0.1:$nginx_port/read.json")
-read_rps=$(measure "vela /v1/read" "$read_url")
-measure "vela /v1/audio (warm cache)" "$audio_url" >/dev/null
+median() { sort -g | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
+
+targets=("nginx static read.json|http://127.0.0.1:$nginx_port/read.json"
+         "vela /v1/read|$read_url"
+         "vela /v1/audio (warm cache)|$audio_url")
+declare -A rps p99 errors
+echo "wrk -t$threads -c$connections -d${seconds}s, loopback, $(nproc) cores, $rounds rounds" >&2
+for round in $(seq "$rounds"); do
+  for target in "${targets[@]}"; do
+    name=${target%%|*}
+    read -r r p e < <(run_wrk "${target#*|}")
+    rps[$name]+="$r "
+    p99[$name]+="$p "
+    errors[$name]=$(( ${errors[$name]:-0} + e ))
+    echo "  round $round: $name $r req/s, p99 $p" >&2
+  done
+done
+for target in "${targets[@]}"; do
+  name=${target%%|*}
+  printf '%-28s %12s req/s   p99 %8s   %s\n' "$name" "$(tr ' ' '\n' <<<"${rps[$name]}" | grep . | median)" \
+    "$(tr ' ' '\n' <<<"${p99[$name]}" | grep . | sed 's/ms$//; s/us$/e-3/; s/s$/e3/' | median)ms" \
+    "$([ "${errors[$name]}" -eq 0 ] && echo "no errors" || echo "ERRORS in ${errors[$name]} runs")"
+done
+nginx_rps=$(tr ' ' '\n' <<<"${rps[nginx static read.json]}" | grep . | median)
+read_rps=$(tr ' ' '\n' <<<"${rps[vela /v1/read]}" | grep . | median)
 awk -v v="$read_rps" -v n="$nginx_rps" 'BEGIN { printf "ratio vela /v1/read : nginx = %.2f\n", v / n }'

@@ -194,7 +194,8 @@ void Session::send(Response&& response, bool head, bool keepAlive) {
   response_ = {};
   response_.version(11);
   response_.result(static_cast<unsigned>(response.status));
-  response_.set(http::field::server, std::string("vela/") + vela_version());
+  static const std::string server = std::string("vela/") + vela_version();
+  response_.set(http::field::server, server);
   response_.set("X-Content-Type-Options", "nosniff");
   if (!response.contentType.empty()) response_.set(http::field::content_type, response.contentType);
   for (const auto& [name, value] : response.headers) response_.set(name, value);
