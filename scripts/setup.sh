@@ -14,7 +14,7 @@ packages=(
   libsndfile1-dev python3 python3-pytest espeak-ng
   cloc
   build-essential debhelper dh-python lintian help2man man-db
-  python3-setuptools python3-pip
+  python3-setuptools python3-pip python3-wheel
   chromium chromium-driver python3-selenium wrk
 )
 # bench/http.sh compares the HTTP service with nginx serving a static file.
