@@ -22,6 +22,9 @@ said=$(vela -l ru 21руб)
 [ "$said" = "двадцать один рубль" ] || fail "vela -l ru 21руб" "$said"
 [ "$(vela --version)" = "vela $(pkg-config --modversion vela)" ] || fail "vela --version" "$(vela --version)"
 
+grep -q '^ExecStart=/usr/bin/vela serve' /lib/systemd/system/vela.service ||
+  fail "vela.service" "not installed in /lib/systemd/system"
+
 page=$(MANPAGER=cat MANWIDTH=100 man vela 2>&1)
 case "$page" in *"vela units [-l TAG]"*) ;; *) fail "man vela" "$(echo "$page" | head -5)" ;; esac
 
