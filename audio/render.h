@@ -26,7 +26,8 @@ enum class Fault {
   empty,        // a zero-length file, or a header with no frames
   truncated,    // the data ends before the header says
   outOfBounds,  // rate, channels or length beyond the limits below
-  tooLong,      // the rendered answer would be longer than kMaxAnswerSeconds
+  tooLong,      // the answer would last longer than kMaxAnswerSeconds, or hold more
+                // than kMaxRecordingSamples samples
   cannotWrite,  // the output cannot be written
 };
 
