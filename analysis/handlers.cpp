@@ -3,6 +3,7 @@
 
 #include "analysis/rules.h"
 #include "grammar/complaints.h"
+#include "grammar/helpers.h"
 #include "pipeline/text_decoder.h"
 
 namespace vela {
@@ -44,7 +45,10 @@ bool TextDecoder::onAmount() {
   fracList_.clear();
   splitDigitGroups(digits, intList_);
   splitDigitGroups(fraction, fracList_);
-  if (grammar->speakSpecialAmount(digits, unit, output)) return true;
+  if (grammar->speakSpecialAmount(digits, unit, output)) {
+    if (hasDigitAbove(fraction, 0)) leaveUnsaid();  // the phrase of a zero count ignores its fraction
+    return true;
+  }
   if (grammar->speakAmount(intList_, fracList_, digits, fraction, unit, output) < 0) leaveUnsaid();
   return true;
 }

@@ -1,6 +1,6 @@
-# `cmake --install`: the library, its header, the `vela` tool, the jar (see
-# java/), a CMake package giving vela::vela, vela.pc for pkg-config, and the
-# Python module.
+# `cmake --install`: the library, its header, the `vela` tool and its man page,
+# the demo-voice script, the jar (see java/), a CMake package giving
+# vela::vela, vela.pc for pkg-config, and the Python module.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -12,6 +12,22 @@ install(TARGETS vela_library EXPORT velaTargets
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(TARGETS vela RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+# The library's SONAME is libvela.so.${PROJECT_VERSION_MAJOR}; the unversioned
+# libvela.so link is for building hosts (libvela-dev).
+
+# vela(1), made from `vela --help` by help2man: the two cannot drift apart.
+find_program(VELA_HELP2MAN help2man REQUIRED)
+add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/vela.1
+  COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8
+          ${VELA_HELP2MAN} --no-info --locale=C.UTF-8
+          --name "speak numbers, amounts, dates and times as voice-prompt names"
+          --include ${PROJECT_SOURCE_DIR}/tools/vela.h2m
+          --output ${PROJECT_BINARY_DIR}/vela.1 $<TARGET_FILE:vela>
+  DEPENDS vela ${PROJECT_SOURCE_DIR}/tools/vela.h2m
+  COMMENT "Making vela.1 from vela --help")
+add_custom_target(vela_man ALL DEPENDS ${PROJECT_BINARY_DIR}/vela.1)
+install(FILES ${PROJECT_BINARY_DIR}/vela.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(PROGRAMS ${PROJECT_SOURCE_DIR}/scripts/demo-voice.sh DESTINATION ${CMAKE_INSTALL_DATADIR}/vela)
 install(FILES ${PROJECT_SOURCE_DIR}/include/vela/vela.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vela)
 
 install(EXPORT velaTargets NAMESPACE vela:: DESTINATION ${VELA_INSTALL_CMAKEDIR})

@@ -5,6 +5,7 @@
 #include <concepts>
 #include <string>
 
+#include "grammar/complaints.h"
 #include "grammar/igrammar.h"
 
 namespace vela {
@@ -51,6 +52,8 @@ class GrammarBase : public IGrammarBase {
         return 0;
       }
       if (fracList.empty()) {
+        // A fraction of more than nine digits has no digit list: it is ignored.
+        if (!fracDigits.empty()) leaveUnsaid();
         self.speakCount(intList, intDigits, unit, out);
         return 0;
       }

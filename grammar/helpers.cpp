@@ -1,5 +1,6 @@
 #include "grammar/helpers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <climits>
@@ -121,6 +122,12 @@ std::array<DigitGroup, 4> getDigitGroups(std::string_view number) {
     fillFromDigits(number, n - cut, &groups[i]);
   }
   return groups;
+}
+
+bool hasDigitAbove(std::string_view digits, std::size_t kept) {
+  if (digits.size() <= kept) return false;
+  const std::string_view above = digits.substr(0, digits.size() - kept);
+  return std::any_of(above.begin(), above.end(), [](char c) { return c >= '1' && c <= '9'; });
 }
 
 bool speakNoneAmount(std::span<const NoneAmount> table, const std::string& intDigits, const std::string& unit,

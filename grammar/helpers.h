@@ -133,6 +133,10 @@ struct NoneAmount {
   const char* phrase;
 };
 
+// Whether `digits` holds a digit other than 0 before its last `kept` ones: what
+// a reading of only the last `kept` digits leaves unsaid (0: any such digit).
+bool hasDigitAbove(std::string_view digits, std::size_t kept);
+
 // The phrase of `unit` in place of `out` when the amount is "0"; false otherwise.
 bool speakNoneAmount(std::span<const NoneAmount> table, const std::string& intDigits, const std::string& unit,
                      std::string& out);

@@ -8,8 +8,12 @@
 #   scripts/demo-voice.sh TAG [-t] [DIR]     (DIR defaults to voice/TAG, voice/TAG-t with -t)
 #
 # Then: build/vela say -l TAG --voice DIR -o x.wav TEXT
+# Installed (/usr/share/vela/demo-voice.sh), it uses the `vela` on PATH and
+# writes DIR under the current directory.
 set -euo pipefail
-cd "$(dirname "$0")/.."
+if [ -x "$(dirname "$0")/../build/vela" ]; then
+  cd "$(dirname "$0")/.."
+fi
 
 usage() { echo "usage: scripts/demo-voice.sh TAG [-t] [DIR]" >&2; exit 2; }
 [ $# -ge 1 ] || usage
@@ -23,6 +27,7 @@ fi
 dir=${1:-voice/$tag${mode:+-t}}
 
 vela=${VELA:-build/vela}
+[ -x "$vela" ] || [ -n "${VELA:-}" ] || vela=$(command -v vela || echo build/vela)
 if [ ! -x "$vela" ]; then
   echo "demo-voice: no $vela; build it first: cmake --build build --target vela" >&2
   exit 2

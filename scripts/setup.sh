@@ -17,8 +17,11 @@ packages=(
   clang libclang-rt-14-dev
   cloc
   build-essential debhelper dh-python lintian help2man man-db
-  python3-setuptools python3-pip
+  python3-setuptools python3-pip python3-wheel
+  chromium chromium-driver python3-selenium wrk
 )
+# bench/http.sh compares the HTTP service with nginx serving a static file.
+[ "${1:-}" = "--http-bench" ] && packages+=(nginx-light)
 
 missing=()
 for p in "${packages[@]}"; do

@@ -101,6 +101,7 @@ int ArabGrammar::speakDate(const std::string& day, const std::string& month, con
     complain(" incorrect month %d \r\n", monthValue);
     return 0;
   }
+  if (monthValue == 0) leaveUnsaid();  // month 0 is no month: its slot is a stand-in word
   out += arabic::kMonths[monthValue];
   out += arabic::kYear;
   speakArabicNumber(year, false, arabic::kFeminine, ArabicCase::kOblique, "", out);

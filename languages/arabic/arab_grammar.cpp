@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "grammar/complaints.h"
 #include "grammar/helpers.h"
 #include "grammar/unit_keys.h"
 #include "languages/arabic/arab_number.h"
@@ -67,7 +68,10 @@ bool ArabGrammar::allowsFraction(const std::string&) { return false; }
 void ArabGrammar::speakCount(const DigitList&, const std::string& intDigits, const std::string& unit,
                              std::string& out) {
   const arabic::ArabicUnitRecord* record = findUnitCode(unit);
-  if (record == nullptr) return;
+  if (record == nullptr) {
+    leaveUnsaid();  // a word that names no noun: the count is not said
+    return;
+  }
   const std::string token = lowered(unit);
   if (arabic::arabicNumberValue(intDigits) != 0) {
     speakArabicNumber(intDigits, false, record->gender, ArabicCase::kNominative, token, out);
@@ -106,6 +110,9 @@ void ArabGrammar::speakMinorUnits(const DigitList&, const DigitList&, const std:
     out += arabic::arabicNounForm(token, 0, ArabicCase::kNominative);
     return;
   }
+  // A fraction longer than the minor unit's places is read whole, as that
+  // many minor units: the amount said is not the amount written.
+  if (fracDigits.size() > places) leaveUnsaid();
   const std::string minor = currency->minorCode;
   speakArabicNumber(fraction, false, arabic::unitGender(minor), ArabicCase::kNominative, minor, out);
 }
@@ -118,11 +125,14 @@ void ArabGrammar::speakNumber(const DigitList& tokenList, std::string& out) {
 }
 
 // Every character gives its word and a space; a character that is not a digit
-// (a quote, "#", "*") gives the space alone.
+// (a quote, "#", "*", a decimal point) gives the space alone.
 void ArabGrammar::speakDigitString(const DigitList& tokenList, std::string& out) {
   std::string text;
   for (const std::string& piece : tokenList) text += piece;
   for (char c : text) {
+    // "#", "*" and a decimal point have no word; the quotes and the dashes
+    // between groups are not read.
+    if (*digitWord(c) == '\0' && c != '"' && c != '-') leaveUnsaid();
     out += digitWord(c);
     out += ' ';
   }

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "grammar/complaints.h"
 #include "grammar/helpers.h"
 
 namespace vela::arabic {
@@ -143,6 +144,13 @@ constexpr auto kRecordNames = [] {
   return names;
 }();
 
+// Only the last twelve digits are read: a non-zero digit above them is left unsaid.
+void noteDigitsBeyondTwelve(std::string_view number) {
+  if (number.size() <= kMaxDigits) return;
+  if (number.substr(0, number.size() - kMaxDigits).find_first_not_of('0') != std::string_view::npos)
+    leaveUnsaid();
+}
+
 // The completed value of a group: its own three digits only.
 int groupValue(const DigitGroup& g) { return g.hundreds + g.tens + g.teen + g.units; }
 
@@ -199,6 +207,7 @@ void speakArabicGroup(const DigitGroup& group, bool ordinal, int gender, ArabicC
 }
 
 long long arabicNumberValue(std::string_view number) {
+  noteDigitsBeyondTwelve(number);
   const std::size_t from = number.size() > kMaxDigits ? number.size() - kMaxDigits : 0;
   long long value = 0;
   for (std::size_t i = from; i < number.size(); ++i)
@@ -212,6 +221,7 @@ long long arabicNumberValue(std::string_view number) {
 // in the form for the whole number (" milyuun duulaar").
 void speakArabicNumber(const std::string& number, bool ordinal, int gender, ArabicCase grammaticalCase,
                        const std::string& token, std::string& result) {
+  noteDigitsBeyondTwelve(number);
   const std::string_view digits =
       number.size() > kMaxDigits ? std::string_view(number).substr(number.size() - kMaxDigits) : number;
   static const ArabicUnitRecord* const kScales[3] = {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "grammar/complaints.h"
 #include "grammar/cp1251.h"
 
 namespace vela {
@@ -116,6 +117,7 @@ void ArmjanGrammar::speakGroup(const DigitGroup& group, std::string& out, bool w
 
 // 1000 is mek hazar; a number of zeros says zro.
 void ArmjanGrammar::speakInteger(const std::string& digits, std::string& out) {
+  centralasian::noteDigitsBeyondTwelve(digits);
   const auto [g9, g6, g3, g0] = getDigitGroups(digits);
   const bool b = hasDigits(g9), m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
   if (b) {
@@ -138,6 +140,7 @@ void ArmjanGrammar::speakInteger(const std::string& digits, std::string& out) {
 int ArmjanGrammar::speakDate(const std::string& day, const std::string& month, const std::string& year,
                              const std::string&, const std::string&, std::string& out) {
   const std::size_t start = out.size();
+  if (year.empty()) leaveUnsaid();  // a date without its year is read as the year zero
   speakInteger(year, out);
   out += " ";
   out += " tvakani";
@@ -173,6 +176,7 @@ void ArmjanGrammar::speakHoursPhrase(const std::string& hours, const std::string
 // tasy tasnhing hing, and 01..09 only their units word.
 void ArmjanGrammar::speakSeconds(const std::string& seconds, std::string& out) {
   DigitGroup group = groupOf(seconds, 0);
+  if (group.teen != 0) leaveUnsaid();  // 11..19 are not read as their number
   centralasian::normaliseLastTwo(group);
   speakGroup(group, out, false);
 }
@@ -199,7 +203,10 @@ void ArmjanGrammar::speakDurationWithSeconds(const std::string& hours, const std
 void ArmjanGrammar::speakCount(const DigitList&, const std::string& intDigits, const std::string& unit,
                                std::string& out) {
   std::string word;
-  if (!centralasian::findUnitWord(kTables, unit, word)) return;
+  if (!centralasian::findUnitWord(kTables, unit, word)) {
+    leaveUnsaid();  // a word not in the unit table: the count is not said
+    return;
+  }
   if (readInt(intDigits) == 0 && unit == "mes") {
     out += " Duk chuneq hakhordagrutyunner";
     return;

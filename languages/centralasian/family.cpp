@@ -23,6 +23,11 @@ const char* findSymbol(const FamilyTables& tables, const std::string& token) {
   return "";
 }
 
+void noteDigitsBeyondTwelve(const std::string& digits) {
+  if (digits.size() <= 12) return;
+  if (digits.find_first_not_of('0') < digits.size() - 12) leaveUnsaid();
+}
+
 DigitGroup groupOf(const std::string& digits, int cut) {
   DigitGroup group;
   getDigitGroup(digits, &group, cut);
@@ -85,13 +90,17 @@ void speakDashedNumber(const FamilyTables& tables, NumberSpeller speakNumber, co
     const std::size_t dash = token.find_first_of(kPieceSeparators, start);
     speakPiece(tables, speakNumber, token.substr(start, dash - start), out);
     if (dash == std::string::npos) return;
+    if (token[dash] != '-') leaveUnsaid();  // the decimal point has no word: the fraction is a second number
     start = dash + 1;
   }
 }
 
 void speakDigits(const FamilyTables& tables, const std::string& text, std::string& out) {
   for (char c : text) {
-    if (isDigit(c)) out += tables.digitWords[c - '0'];
+    if (isDigit(c))
+      out += tables.digitWords[c - '0'];
+    else if (c != '"' && c != '-')
+      leaveUnsaid();  // "#", "*" and a decimal point have no word; quotes and dashes are not read
     out += " ";
   }
 }
@@ -108,7 +117,10 @@ void speakCharacter(const FamilyTables& tables, const std::string& token, std::s
 void speakCount(const FamilyTables& tables, NumberSpeller speakNumber, const std::string& digits,
                 const std::string& unit, std::string& out) {
   std::string word;
-  if (!findUnitWord(tables, unit, word)) return;
+  if (!findUnitWord(tables, unit, word)) {
+    leaveUnsaid();  // a word not in the unit table: the count is not said
+    return;
+  }
   if (readInt(digits) != 0) {
     speakNumber(digits, out);
     out += " ";
@@ -122,7 +134,10 @@ void speakCount(const FamilyTables& tables, NumberSpeller speakNumber, const std
   }
 }
 
-std::string minorDigits(const std::string& minor) { return minor.size() == 1 ? minor + "0" : minor; }
+std::string minorDigits(const std::string& minor) {
+  if (minor.size() > 2) leaveUnsaid();
+  return minor.size() == 1 ? minor + "0" : minor;
+}
 
 void speakMoney(const FamilyTables& tables, NumberSpeller speakNumber, const std::string& major,
                 const std::string& minor, const std::string& unit, std::string& out) {
@@ -195,6 +210,7 @@ bool dayAccepted(const std::string& day, DigitGroup& group) {
 
 bool monthAccepted(const std::string& month, DigitGroup& group) {
   getDigitGroup(month, &group, 0);
+  if (group.value == 0) leaveUnsaid();  // month 0: its slot says nothing or a stand-in word
   if (group.value < 13) return true;
   complain(" incorrect month %d \r\n", group.value);
   return false;

@@ -83,6 +83,10 @@ const char* wordAt(const std::array<const char*, N>& table, int index) {
   return table[index];
 }
 
+// Notes the digits a speller leaves unsaid: it reads only the last twelve, so
+// a non-zero digit above them is lost. Every speller calls it on its number.
+void noteDigitsBeyondTwelve(const std::string& digits);
+
 // The group of `digits` above a cut of trailing digits (9, 6, 3, 0).
 DigitGroup groupOf(const std::string& digits, int cut);
 
@@ -124,7 +128,9 @@ void speakMoney(const FamilyTables& tables, NumberSpeller speakNumber, const std
 void speakDuration(const FamilyTables& tables, NumberSpeller speakNumber, const std::string& hours,
                    const std::string& minutes, std::string& out);
 
-// The minor part of an amount: one digit counts tens ("5" is "50").
+// The minor part of an amount: one digit counts tens ("5" is "50"). A longer
+// one is read whole, as that many minor units: the amount said then differs
+// from the amount written, and the reading counts as partial.
 std::string minorDigits(const std::string& minor);
 
 // "y" onto a word ending in a vowel before the connective "u" or a suffix
@@ -133,7 +139,8 @@ std::string minorDigits(const std::string& minor);
 void appendGlide(std::string& text, std::size_t start = 0);
 
 // Checks shared by the dates and clock times; each prints the family's
-// diagnostic and returns false when the value is out of range.
+// diagnostic and returns false when the value is out of range. Month 0 is
+// accepted, but its slot is no month: the reading counts as partial.
 bool hoursAccepted(const std::string& hours, DigitGroup& group);
 bool dayAccepted(const std::string& day, DigitGroup& group);
 bool monthAccepted(const std::string& month, DigitGroup& group);

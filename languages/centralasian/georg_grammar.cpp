@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "grammar/complaints.h"
+
 namespace vela {
 namespace {
 
@@ -232,6 +234,7 @@ void GeorgGrammar::speakGroup(DigitGroup group, std::string& out, bool final) {
 // A thousands group ending in 1 says only the scale word: 1000 is atasi, and so
 // are the thousands of 11 000, 21 000 and 101 000.
 void GeorgGrammar::speakInteger(const std::string& digits, std::string& out, bool final) {
+  centralasian::noteDigitsBeyondTwelve(digits);
   auto [g9, g6, g3, g0] = getDigitGroups(digits);
   for (DigitGroup* group : {&g9, &g6, &g3, &g0}) centralasian::normaliseLastTwo(*group);
   using centralasian::hasDigits;
@@ -245,7 +248,10 @@ void GeorgGrammar::speakInteger(const std::string& digits, std::string& out, boo
     out += form(kMillion, final && !t && !u);
   }
   if (t) {
-    if (g3.units != 1) speakNormalisedGroup(g3, out, true);
+    if (g3.units != 1)
+      speakNormalisedGroup(g3, out, true);
+    else if (g3.tens != 1 || g3.hundreds != 0)
+      leaveUnsaid();  // the thousands of 11 000, 21 000, 101 000: only the scale word is said
     out += form(kThousand, final && !u);
   }
   if (u) speakNormalisedGroup(g0, out, final);

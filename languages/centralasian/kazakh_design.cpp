@@ -40,6 +40,7 @@ void speakKazakhGroup(const KazakhStyleNumbers& numbers, DigitGroup group, std::
 // or, when it is empty, on the last scale word. A cardinal keeps every group.
 void speakKazakhInteger(const KazakhStyleNumbers& numbers, const std::string& digits, std::string& out,
                         bool ordinal) {
+  noteDigitsBeyondTwelve(digits);
   const auto [g9, g6, g3, g0] = getDigitGroups(digits);
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
 

@@ -126,6 +126,7 @@ void TadjikGrammar::speakGroup(DigitGroup group, std::string& out) {
 // last twelve digits decide, so a long number never overflows the test).
 void TadjikGrammar::speakInteger(const std::string& digits, std::string& out) {
   using centralasian::hasDigits;
+  centralasian::noteDigitsBeyondTwelve(digits);
   const auto [g9, g6, g3, g0] = getDigitGroups(digits);
   const bool m = hasDigits(g6), t = hasDigits(g3), u = hasDigits(g0);
   if (hasDigits(g9)) appendScale(g9, " milliard", m || t || u, out);

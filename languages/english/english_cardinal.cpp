@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "grammar/complaints.h"
 #include "grammar/helpers.h"
 
 namespace vela::english {
@@ -46,6 +47,8 @@ CardinalBuilder buildCardinal(const DigitList& digits) {
 
   CardinalBuilder builder;
   if (std::all_of(d.begin(), d.end(), [](int x) { return x == 0; })) return builder;
+  // Every group above the thousands says "million": a digit above the millions changes the number.
+  if (d.size() > 9 && std::any_of(d.begin() + 9, d.end(), [](int x) { return x != 0; })) leaveUnsaid();
   builder.isOne = d[0] == 1 && std::all_of(d.begin() + 1, d.end(), [](int x) { return x == 0; });
 
   for (std::size_t group = d.size() / 3; group-- > 0;) {

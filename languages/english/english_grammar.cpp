@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "grammar/complaints.h"
 #include "grammar/helpers.h"
 #include "grammar/unit_keys.h"
 #include "languages/english/english_cardinal.h"
@@ -90,9 +91,16 @@ const DigitList& minorDigits(const DigitList& fracList) {
   return digits;
 }
 
+// Whether a number read from `list`, which is empty for more than nine digits,
+// leaves a digit of `digits` unsaid.
+bool dropsNumber(const DigitList& list, const std::string& digits) {
+  return list.empty() && hasDigitAbove(digits, 0);
+}
+
 // 0-11 are AM, 12-23 PM with 12 taken off: noon is said as zero hours PM.
 std::string toTwelveHour(const std::string& hours, bool& pm) {
   int h = readInt(hours);
+  if (h > 23) leaveUnsaid();  // past the day: the hours said are not the ones written
   pm = h > 11;
   if (pm) h -= 12;
   return std::to_string(h);
@@ -128,10 +136,11 @@ bool EnglishGrammar::isCurrency(const std::string& unit) { return findCurrency(f
 
 bool EnglishGrammar::allowsFraction(const std::string&) { return false; }
 
-void EnglishGrammar::speakCount(const DigitList& intList, const std::string&, const std::string& unit,
-                                std::string& out) {
+void EnglishGrammar::speakCount(const DigitList& intList, const std::string& intDigits,
+                                const std::string& unit, std::string& out) {
   const UnitRecord* record = findUnit(unit);
   if (record == nullptr) return;
+  if (dropsNumber(intList, intDigits)) leaveUnsaid();  // beyond nine digits: said as zero
   CardinalBuilder number = buildCardinal(intList);
   attachRecord(number, *record, out);
   WordList words;
@@ -141,10 +150,15 @@ void EnglishGrammar::speakCount(const DigitList& intList, const std::string&, co
 
 // "one dollar and five cents"; a zero major part is said "zero dollars" and
 // takes no "and" before the cents.
-void EnglishGrammar::speakMoney(const DigitList& intList, const DigitList& fracList, const std::string&,
-                                const std::string&, const std::string& unit, std::string& out) {
+void EnglishGrammar::speakMoney(const DigitList& intList, const DigitList& fracList,
+                                const std::string& intDigits, const std::string& fracDigits,
+                                const std::string& unit, std::string& out) {
   const CurrencyPair* currency = findCurrency(findUnit(unit));
   if (currency == nullptr) return;
+  // Beyond nine digits a part is said as zero; fraction digits after the second are cut.
+  if (dropsNumber(intList, intDigits) || dropsNumber(fracList, fracDigits) ||
+      fracDigits.find_first_not_of('0', 2) != std::string::npos)
+    leaveUnsaid();
   CardinalBuilder major = buildCardinal(intList);
   attachRecord(major, *currency->major, out);
   CardinalBuilder minor = buildCardinal(minorDigits(fracList));
@@ -175,9 +189,13 @@ int EnglishGrammar::speakDate(const std::string& day, const std::string& month, 
   if (monthNumber >= 1 && monthNumber <= 12) {
     words.emplace_back("of");
     words.emplace_back(english::kMonths[monthNumber - 1]);
+  } else {
+    leaveUnsaid();  // month 0 has no name
   }
   if (century == "19") words.emplace_back("nineteen hundred");
   if (century == "20") words.emplace_back("two thousand");
+  // A date marked "(I)" comes with the century "I": its year's first two digits are not said.
+  if (century != "19" && century != "20" && !yearTail.empty()) leaveUnsaid();
   WordList yearWords;
   const CardinalBuilder rest = buildCardinal(textToDigits(yearTail));
   if (!rest.phrases.empty()) {
@@ -204,6 +222,8 @@ void EnglishGrammar::speakDigitString(const DigitList& tokenList, std::string& o
     for (char c : piece) {
       if (c == '0') out += zeroWord;
       if (c >= '1' && c <= '9') out += english::kDigitWords[c - '0'].unit;
+      // A key, or the separator of a number's fraction, has no word; quotes and dashes say nothing.
+      if (c == '*' || c == '#' || c == '.' || c == ',' || c == '|') leaveUnsaid();
       out += ' ';
     }
   }
@@ -232,6 +252,7 @@ void EnglishGrammar::speakCharacter(const std::string& character, std::string& o
       return;
     }
   }
+  leaveUnsaid();  // a character without a word
 }
 
 // "two hours and five minutes PM" for 14:05.

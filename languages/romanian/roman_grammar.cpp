@@ -108,6 +108,8 @@ std::string withoutLeadingZeros(const std::string& digits) {
 
 // The minor part as two digits: "5" is "50", "567" is "56" (cut, not rounded).
 std::string minorDigits(const std::string& fracDigits) {
+  if (fracDigits.find_first_not_of('0', 2) != std::string::npos)
+    leaveUnsaid();  // the digits after the second
   std::string minor = fracDigits.substr(0, 2);
   if (minor.size() == 1) minor += '0';
   return minor;
@@ -198,8 +200,9 @@ bool RomanGrammar::allowsFraction(const std::string& unit) {
   return false;
 }
 
-void RomanGrammar::speakCount(const DigitList& intList, const std::string&, const std::string& unit,
+void RomanGrammar::speakCount(const DigitList& intList, const std::string& intDigits, const std::string& unit,
                               std::string& out) {
+  if (intList.empty() && !intDigits.empty()) leaveUnsaid();  // beyond nine digits only the noun is said
   std::string number;
   for (auto digit = intList.rbegin(); digit != intList.rend(); ++digit) number += *digit;
   if (findNoun(unit, false) == nullptr) complain(" wrong suffix %s \r\n", unit.c_str());
@@ -274,7 +277,11 @@ void RomanGrammar::speakCharacter(const std::string& character, std::string& out
     out += digitWord(character[0]);
     return;
   }
-  if (const char* word = symbolWord(character[0])) out += word;
+  if (const char* word = symbolWord(character[0])) {
+    out += word;
+  } else {
+    leaveUnsaid();  // a character without a word
+  }
 }
 
 // --- dates and times ---
@@ -286,7 +293,11 @@ int RomanGrammar::speakDate(const std::string& day, const std::string& month, co
   romanian::appendNumber(day, romanian::kMasculine, 1, out);
   out += ' ';
   const int monthNumber = readInt(month);
-  if (monthNumber >= 1 && monthNumber <= 12) out += romanian::kMonths[monthNumber];
+  if (monthNumber >= 1 && monthNumber <= 12) {
+    out += romanian::kMonths[monthNumber];
+  } else {
+    leaveUnsaid();  // month 0 has no name
+  }
   const int yearNumber = readInt(year);
   if (yearNumber >= 1900 && yearNumber <= 3000) {
     out += ' ';

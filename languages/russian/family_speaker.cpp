@@ -60,14 +60,33 @@ std::string_view hundredsWord(const NumberViews& words, const DigitGroup& group,
   return genitive && last ? words.hundreds[row].ordinalGenitive : words.hundreds[row].cardinal;
 }
 
+// Whether `hundredths` says the whole fraction `fracDigits`: its first two
+// digits are that number and the rest are zeros ("230" is 23; "234" and "005"
+// are not). Zeros cut from the end lose nothing.
+bool saysAllOf(const std::string& fracDigits, int hundredths) {
+  if (fracDigits.size() < 2) return true;
+  return (fracDigits[0] - '0') * 10 + (fracDigits[1] - '0') == hundredths &&
+         fracDigits.find_first_not_of('0', 2) == std::string::npos;
+}
+
 // A fraction as hundredths: one digit is padded ("5" is 50) and digits beyond
 // the second are cut, not rounded ("567" is 56).
 int hundredthsOf(const std::string& fracDigits) {
   int n = readInt(fracDigits);
   if (fracDigits.size() == 1) n *= 10;
   for (int i = 0; i < 6 && n > 99; ++i) n /= 10;
-  if (n > 99) complain("wrong fractal part %s\r\n", fracDigits.c_str());
+  if (n > 99) {
+    complain("wrong fractal part %s\r\n", fracDigits.c_str());
+  } else if (!saysAllOf(fracDigits, n)) {
+    leaveUnsaid();  // a digit after the second is cut, or "005" was read as five hundredths
+  }
   return n;
+}
+
+// The four groups of a cardinal; only the last twelve digits have words.
+std::array<DigitGroup, 4> cardinalGroups(std::string_view digits) {
+  if (hasDigitAbove(digits, 12)) leaveUnsaid();  // the digits above the milliards
+  return getDigitGroups(digits);
 }
 
 }  // namespace
@@ -208,7 +227,7 @@ bool FamilySpeaker::speakHigherGroups(const std::array<DigitGroup, 4>& groups, s
 }
 
 void FamilySpeaker::speakCardinal(std::string_view digits, int gender, std::string& out) const {
-  const std::array<DigitGroup, 4> groups = getDigitGroups(digits);
+  const std::array<DigitGroup, 4> groups = cardinalGroups(digits);
   speakHigherGroups(groups, out);
   speakUnitsGroup(groups[3], gender, out);
 }
@@ -224,7 +243,7 @@ void FamilySpeaker::speakCount(const std::string& digits, const std::string& suf
   if (suffix.empty()) return speakCardinal(digits, kMasculine, out);
   if (lang_.femaleSuffix != nullptr && suffix == lang_.femaleSuffix)
     return speakCardinal(digits, kFeminine, out);
-  const std::array<DigitGroup, 4> groups = getDigitGroups(digits);
+  const std::array<DigitGroup, 4> groups = cardinalGroups(digits);
   const bool belowThousand = speakHigherGroups(groups, out);
   const DigitGroup& group = groups[3];
   const int row = findUnit(suffix);
@@ -263,6 +282,8 @@ void FamilySpeaker::speakNumberPiece(std::string_view piece, std::string& out) c
     if (lang_.decimals != nullptr) {
       speakDecimalNumber(std::string(piece.substr(0, separator)), std::string(piece.substr(separator + 1)),
                          out);
+    } else {
+      leaveUnsaid();  // the whole number: the language has no decimal words
     }
     return;
   }
@@ -275,6 +296,7 @@ void FamilySpeaker::speakDigitString(const DigitList& tokenList, std::string& ou
   for (const std::string& token : tokenList) {
     for (char c : token) {
       if (isDigit(c)) out += lang_.numbers->cardinal[c - '0'][kMasculine];
+      if (c == '*' || c == '#') leaveUnsaid();  // keys have no word in a digit string
       out += ' ';
     }
   }
@@ -287,7 +309,11 @@ void FamilySpeaker::speakCharacter(const std::string& token, std::string& out) c
     return;
   }
   const int symbol = findSymbol(token);
-  if (symbol > 0) out += lang_.symbols[symbol - 1].word;
+  if (symbol > 0) {
+    out += lang_.symbols[symbol - 1].word;
+  } else {
+    leaveUnsaid();  // a character without a word
+  }
 }
 
 void FamilySpeaker::appendMinus(std::string& out) const {
@@ -351,7 +377,10 @@ bool FamilySpeaker::speakDecimalNumber(const std::string& intDigits, const std::
 // A whole fraction ("7.00") ends the reading without the unit.
 void FamilySpeaker::speakDecimal(const std::string& intDigits, const std::string& fracDigits,
                                  const std::string& unit, std::string& out) const {
-  if (!speakDecimalNumber(intDigits, fracDigits, out)) return;
+  if (!speakDecimalNumber(intDigits, fracDigits, out)) {
+    leaveUnsaid();  // the unit after a whole fraction, or all of it without decimal words
+    return;
+  }
   const int row = findUnit(unit);
   if (genderOf(row) == -1) {
     complain(" wrong suffix (getGender) %s \r\n", unit.c_str());

@@ -37,11 +37,12 @@ constexpr const char* kTags =
 
 constexpr const char* kEnd =
     "Exit status:\n"
-    "  0   every text was taken\n"
-    "  1   a text cannot be written in Windows-1251 (its line is left empty), the\n"
-    "      tag is unknown (the texts are then spoken in English), a recording is\n"
-    "      missing or does not fit\n"
-    "  2   a usage error: one line on standard error names it\n"
+    "  0   every text was spoken whole (or passed through as file names)\n"
+    "  1   a text was partly spoken or not at all, could not be written in\n"
+    "      Windows-1251, or the tag is unknown (the texts are then spoken in\n"
+    "      English); prompts --check: a recording is missing; say: a recording\n"
+    "      is missing or does not fit\n"
+    "  2   a usage error, named on one line of standard error\n"
     "\n"
     "Examples:\n"
     "  vela -l ru 12.50руб\n"

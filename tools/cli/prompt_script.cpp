@@ -6,6 +6,7 @@
 #include "tools/cli/text.h"
 #include "tools/cli/voice_options.h"
 #include "tools/inventory.h"
+#include "vela/vela.h"
 
 namespace vela::cli {
 namespace {
@@ -24,8 +25,9 @@ std::string joined(const std::vector<std::string>& names) {
 }
 
 // Keeps, for each prompt, the examples with the shortest answers. A text is
-// kept only when, sent as a request, it does say the prompt (the enumeration
-// calls the grammar directly, and a request may be read otherwise).
+// kept only when, sent as a request, it is wholly spoken and does say the
+// prompt (the enumeration calls the grammar directly, and a request may be
+// read otherwise, or only in part).
 class ExampleFinder {
  public:
   explicit ExampleFinder(const VoiceOptions& options) : options_(options) {}
@@ -52,9 +54,12 @@ class ExampleFinder {
  private:
   const std::vector<std::string>& spokenNames(const std::string& text) {
     auto [it, added] = spoken_.try_emplace(text);
-    if (added)
-      it->second = tools::speakNames(options_.language.tag, options_.language.mode, text)
-                       .value_or(std::vector<std::string>{});
+    if (!added) return it->second;
+    vela_reading reading;
+    const unsigned latin = options_.language.mode != 0 ? VELA_LATIN : 0;
+    if (vela_read(options_.language.tag.c_str(), text.c_str(), latin, &reading) != 0) return it->second;
+    if (reading.status == VELA_SPOKEN) tools::splitNames(reading.names, it->second);
+    vela_reading_free(&reading);
     return it->second;
   }
 

@@ -1,0 +1,111 @@
+// The routes without a socket: what each request is answered, status and body.
+#include "service/routes.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace vela::service {
+namespace {
+
+Response ask(Service& service, const std::string& target, const char* method = "GET") {
+  std::size_t route = 0;
+  return respond(service, Request{method, target, "", "127.0.0.1:8080"}, route);
+}
+
+Service& noVoice() {
+  static Service service(Config{}, routeNames());
+  return service;
+}
+
+// One row per way a request can go: the answer's status and a piece of its body.
+TEST(ServiceRoutesTest, AnswersEachKindOfRequest) {
+  const std::string longText(kMaxTextBytes, '7');
+  struct Case {
+    const char* method;
+    std::string target;
+    int status;
+    const char* body;  // a piece the body must hold
+  };
+  const Case kCases[] = {
+      // Readings: names, status and the unknown-tag flag as JSON in UTF-8.
+      {"GET", "/v1/read?lang=ru&text=21%D1%80%D1%83%D0%B1", 200,
+       R"("names":["двадцать","один","рубль"],"status":"spoken")"},
+      {"GET", "/v1/read?lang=ru&latin=1&text=21rub", 200, R"("names":["dvadcat","odin","rubl"])"},
+      {"GET", "/v1/read?lang=ru&text=-5xyz", 200, R"("names":["минус"],"status":"partly_spoken")"},
+      {"GET", "/v1/read?lang=ru&text=xyz", 200, R"("names":[],"status":"not_spoken")"},
+      {"GET", "/v1/read?lang=ru&text=a.wav", 200, R"("status":"file_names")"},
+      {"GET", "/v1/read?lang=xx&text=1&fallback=en", 200,
+       R"("names":["one"],"status":"spoken","diagnostics":[],"unknown_tag":true)"},
+      {"GET", "/v1/read?lang=ru&text=" + longText, 200, R"("status":"partly_spoken")"},  // the longest text taken
+      {"HEAD", "/v1/read?lang=en&text=2", 200, R"("names":["two"])"},
+      // Refusals, each with a message that says what to change.
+      {"GET", "/v1/read?lang=xx&text=1", 400, "unknown language tag \\\"xx\\\""},
+      {"GET", "/v1/read?lang=xx&text=1&fallback=de", 400, "fallback can only be en"},
+      {"GET", "/v1/read?text=1", 400, "lang parameter is required"},
+      {"GET", "/v1/read?lang=ru", 400, "text parameter is required"},
+      {"GET", "/v1/read?lang=ru&text=1&latin=yes", 400, "latin must be"},
+      {"GET", "/v1/read?lang=ru&text=" + longText + "7", 400, "limit is 10239"},
+      {"GET", "/v1/read?lang=ru&text=%E4%B8%AD", 400, "U+4E2D is not in Windows-1251"},
+      {"GET", "/v1/read?lang=ru&text=%D1", 400, "invalid UTF-8"},
+      {"GET", "/v1/read?lang=ru&text=%G1", 400, "percent-encoding"},
+      {"POST", "/v1/read?lang=ru&text=1", 405, "only GET and HEAD"},
+      {"DELETE", "/healthz", 405, "only GET and HEAD"},
+      {"GET", "/v1/readx", 404, "no such route"},
+      {"GET", "/v1/read/", 404, "no such route"},
+      {"GET", "/V1/READ", 404, "no such route"},
+      // Audio is refused before any voice is looked at when the text is not fully spoken.
+      {"GET", "/v1/audio?lang=ru&text=-5xyz", 422,
+       R"("error":"the text is not fully spoken","status":"partly_spoken")"},
+      {"GET", "/v1/audio?lang=ru&text=21", 404, R"(no voice for \"ru\")"},
+      {"GET", "/v1/audio?lang=ru&latin=1&text=21", 404, R"(no voice for \"ru-t\")"},
+      {"GET", "/v1/audio?lang=ru&text=21&rate=12345", 400, "rate must be one of"},
+      {"GET", "/v1/audio?lang=ru&text=21&encoding=mp3", 400, "encoding must be"},
+      {"GET", "/v1/audio?lang=ru&text=21&format=ogg", 400, "format must be"},
+      {"GET", "/v1/audio?lang=ru&text=21&pause=-1", 400, "pause must be"},
+      {"GET", "/v1/files?lang=ru&text=21&layout=urls", 404, "no voice"},
+      {"GET", "/v1/files?lang=ru&text=21&layout=mp3", 400, "layout must be"},
+      {"GET", "/v1/files?lang=ru&text=xyz&layout=asterisk", 422, "not fully spoken"},
+      {"GET", "/v1/recordings/ru/odin.wav", 404, "no voice"},
+      // The lists.
+      {"GET", "/v1/languages", 200, R"({"tag":"ru","name":"Russian","latin":true,"voice":false)"},
+      {"GET", "/v1/prompts?lang=xx", 400, "unknown language tag"},
+      {"GET", "/v1/prompts", 400, "lang parameter is required"},
+      {"GET", "/healthz", 200, R"("status":"ok")"},
+      {"GET", "/", 200, "<title>vela playground</title>"},
+  };
+  for (const Case& c : kCases) {
+    SCOPED_TRACE(std::string(c.method) + " " + c.target.substr(0, 80));
+    const Response response = ask(noVoice(), c.target, c.method);
+    EXPECT_EQ(response.status, c.status);
+    EXPECT_NE(response.body.find(c.body), std::string::npos) << response.body;
+  }
+}
+
+// The prompt lists follow the tag and the mode (Latin names are another list).
+TEST(ServiceRoutesTest, ListsPromptsOfTheAskedGrammar) {
+  const Response cyrillic = ask(noVoice(), "/v1/prompts?lang=ru");
+  const Response latin = ask(noVoice(), "/v1/prompts?lang=ru&latin=1");
+  ASSERT_EQ(cyrillic.status, 200);
+  ASSERT_EQ(latin.status, 200);
+  EXPECT_NE(cyrillic.body.find(R"({"name":"рубль","file":"рубль.wav"})"), std::string::npos);
+  EXPECT_EQ(cyrillic.body.find(R"("name":"rubl")"), std::string::npos);
+  EXPECT_NE(latin.body.find(R"({"name":"rubl","file":"rubl.wav"})"), std::string::npos);
+}
+
+TEST(ServiceRoutesTest, MethodNotAllowedSaysWhichAre) {
+  const Response response = ask(noVoice(), "/v1/read?lang=ru&text=1", "PUT");
+  ASSERT_EQ(response.status, 405);
+  ASSERT_EQ(response.headers.size(), 2u);
+  EXPECT_EQ(response.headers[1], (std::pair<std::string, std::string>{"Allow", "GET, HEAD"}));
+}
+
+// Asterisk's Playback list: the names as the exported sound files, joined by "&".
+TEST(ServiceRoutesTest, FilesForAsteriskJoinTheExportedNames) {
+  const Response response = ask(noVoice(), "/v1/files?lang=ru&text=21%D1%80%D1%83%D0%B1&layout=asterisk");
+  EXPECT_EQ(response.status, 200);
+  EXPECT_EQ(response.body, "vela/двадцать&vela/один&vela/рубль\n");
+}
+
+}  // namespace
+}  // namespace vela::service

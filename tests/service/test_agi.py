@@ -1,0 +1,72 @@
+"""The Asterisk AGI recipe against recorded AGI conversations: what Asterisk
+sends on the script's standard input, and exactly what the script must write
+on its standard output (AGI commands and nothing else)."""
+import os
+import subprocess
+import sys
+
+import pytest
+
+from conftest import VELA
+
+ROOT = os.path.abspath(os.path.join(os.path.dirname(__file__), "..", ".."))
+SCRIPT = os.path.join(ROOT, "recipes", "asterisk", "vela-agi.py")
+ENV = "agi_request: vela-agi.py\nagi_channel: PJSIP/100-00000001\nagi_language: %s\n%s\n"
+OK = "200 result=0\n"
+KEYS = '"0123456789*#"'
+
+# text and tag as the dialplan passes them, the channel's language, Asterisk's
+# answers, and the commands the script must send.
+CONVERSATIONS = [
+    ("spoken", "agi_arg_1: 21руб\nagi_arg_2: ru\n", "en", [OK] * 4,
+     ["SET VARIABLE VELA_STATUS spoken",
+      "STREAM FILE vela/двадцать " + KEYS, "STREAM FILE vela/один " + KEYS, "STREAM FILE vela/рубль " + KEYS]),
+    ("tag from the channel", "agi_arg_1: 2\n", "en", [OK] * 2,
+     ["SET VARIABLE VELA_STATUS spoken", "STREAM FILE vela/two " + KEYS]),
+    ("a key stops it", "agi_arg_1: 21руб\n", "ru", [OK, OK, "200 result=50 endpos=1200\n"],
+     ["SET VARIABLE VELA_STATUS spoken", "STREAM FILE vela/двадцать " + KEYS, "STREAM FILE vela/один " + KEYS]),
+    ("hung up", "agi_arg_1: 21руб\n", "ru", [OK, "HANGUP\n"],
+     ["SET VARIABLE VELA_STATUS spoken", "STREAM FILE vela/двадцать " + KEYS]),
+    ("complaint, nothing played", "agi_arg_1: 25:70\n", "ru", [OK] * 2,
+     ['VERBOSE "vela: wrong time (hours) 25" 3', "SET VARIABLE VELA_STATUS not_spoken"]),
+    ("partly spoken plays nothing", "agi_arg_1: -5xyz\n", "ru", [OK],
+     ["SET VARIABLE VELA_STATUS partly_spoken"]),
+    ("text outside the code page", "agi_arg_1: 中\n", "ru", [OK] * 2,
+     [None, "SET VARIABLE VELA_STATUS error"]),
+]
+
+
+@pytest.mark.parametrize("args,language,answers,commands", [c[1:] for c in CONVERSATIONS],
+                         ids=[c[0] for c in CONVERSATIONS])
+def test_agi_conversation(args, language, answers, commands):
+    env = dict(os.environ, PYTHONPATH=os.path.join(ROOT, "python"))
+    run = subprocess.run([sys.executable, SCRIPT], input=ENV % (language, args) + "".join(answers),
+                         capture_output=True, text=True, env=env, timeout=60)
+    assert run.returncode == 0, run.stderr
+    sent = run.stdout.split("\n")
+    assert sent[-1] == "" and len(sent) - 1 == len(commands), run.stdout
+    for line, expected in zip(sent, commands):
+        if expected is None:
+            assert line.startswith('VERBOSE "vela: ') and line.endswith('" 1'), line
+        else:
+            assert line == expected
+
+
+def load_script():
+    import importlib.util
+    spec = importlib.util.spec_from_file_location("vela_agi", SCRIPT)
+    module = importlib.util.module_from_spec(spec)
+    sys.path.insert(0, os.path.join(ROOT, "python"))
+    spec.loader.exec_module(module)
+    return module
+
+
+@pytest.mark.parametrize("tag", ["ru", "en", "hy"])
+def test_file_names_agree_with_the_voice_folders(tag):
+    """The script names files as `vela prompts --files` does, for every prompt."""
+    listed = subprocess.run([VELA, "prompts", "-l", tag, "--files"], capture_output=True, text=True,
+                            check=True).stdout
+    stem = load_script().file_stem
+    for line in listed.splitlines():
+        name, file = line.split("\t")
+        assert stem(name) + ".wav" == file
