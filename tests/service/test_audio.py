@@ -114,14 +114,3 @@ def test_files_for_asterisk_and_as_urls(start_server, voice):
     for url in urls:
         got = fetch(server, urllib.parse.urlsplit(url)._replace(scheme="", netloc="").geturl())
         assert got[0] == 200 and got[1]["Content-Type"] == "audio/wav" and "ETag" in got[1]
-
-
-def test_voice_folders_are_searched_in_order(start_server, voice, tmp_path):
-    front = tmp_path / "front"
-    front.mkdir()
-    shutil.copyfile(voice / "два.wav", front / "один.wav")
-    server = start_server("--voice", "ru=%s" % front, "--voice", "ru=%s" % voice)
-    alone = start_server("--voice", "ru=%s" % voice)
-    layered = fetch(server, audio_path())
-    plain = fetch(alone, audio_path())
-    assert layered[0] == plain[0] == 200 and layered[2] != plain[2]
