@@ -1,31 +1,44 @@
-// Fuzz target for a whole request: the first byte picks a language tag and a
-// mode, the rest is the text. Any crash, sanitizer report or lost buffer is a
-// finding. Built as a libFuzzer target with clang (-DVELA_FUZZ=ON), and always
-// as the deterministic smoke run in fuzz_smoke.cpp.
+// Fuzz target for a whole request: the first byte picks the language tag from
+// every tag the library knows, an unknown one and an empty one; the second is
+// the mode, as the Java entry passes it; the rest is the text. Any crash,
+// sanitizer report or lost buffer is a finding. Built as a libFuzzer target
+// with clang (-DVELA_FUZZ=ON), and always as the deterministic smoke run in
+// fuzz_smoke.cpp.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "grammar/factory.h"
 #include "pipeline/text_decoder.h"
 #include "vela/vela.h"
 
 namespace {
 
-const char* const kTags[] = {"ru", "en", "uk", "ro", "kk", "tg", "ka", "hy", "ar", "uz", "xx", ""};
+const std::vector<std::string>& tags() {
+  static const std::vector<std::string> all = [] {
+    std::vector<std::string> t;
+    for (std::string_view tag : vela::knownTags()) t.emplace_back(tag);
+    t.emplace_back("xx");  // unknown: spoken in English
+    t.emplace_back("");
+    return t;
+  }();
+  return all;
+}
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  if (size == 0) return 0;
-  const char* tag = kTags[data[0] % std::size(kTags)];
-  const unsigned char mode = (data[0] >> 7) & 1;
-  const std::string text(reinterpret_cast<const char*>(data + 1), size - 1);
+  if (size < 2) return 0;
+  const std::string& tag = tags()[data[0] % tags().size()];
+  const unsigned char mode = data[1];
+  const std::string text(reinterpret_cast<const char*>(data + 2), size - 2);
 
   char* out = nullptr;
-  if (vela::decodeText(tag, text.c_str(), &out, mode) == 0) {
+  if (vela::decodeText(tag.c_str(), text.c_str(), &out, mode) == 0) {
     // The answer is either spoken names or the caller's own text: never lost.
     if (out == nullptr) std::abort();
     decodeReleaseBuffer(out);

@@ -68,6 +68,7 @@ int main(int argc, char** argv) {
   std::string input;
   for (long i = 0; i < runs; ++i) {
     input.assign(1, static_cast<char>(rng() & 0xFF));
+    input += static_cast<char>(rng() % 4 == 0 ? rng() & 0xFF : rng() & 1);  // the mode
     const int pieces = 1 + static_cast<int>(rng() % 6);
     for (int p = 0; p < pieces; ++p) {
       if (rng() % 8 == 0) {

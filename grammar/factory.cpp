@@ -1,5 +1,6 @@
 #include "grammar/factory.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -169,6 +170,14 @@ const TagRow* findTag(std::string_view tag) {
 }
 
 }  // namespace
+
+std::vector<std::string_view> knownTags() {
+  std::vector<std::string_view> tags;
+  for (const TagRow& row : kTags) {
+    if (std::find(tags.begin(), tags.end(), row.tag) == tags.end()) tags.push_back(row.tag);
+  }
+  return tags;
+}
 
 IGrammar& grammarFor(std::string_view tag, unsigned char transliterated, std::string& error) {
   if (const TagRow* row = findTag(tag)) return *row->maker(transliterated, nullptr);

@@ -18,6 +18,9 @@ namespace vela {
 // as the library: the result is never owned by the caller and never released.
 IGrammar& grammarFor(std::string_view tag, unsigned char transliterated, std::string& error);
 
+// Every tag the factory knows, each once, in the order they are tried.
+std::vector<std::string_view> knownTags();
+
 // Appends to `keys` the unit words the grammar of `tag` lists for the tools
 // (grammar/unit_keys.h). An unknown tag is English, as above.
 void listUnitKeys(const std::string& tag, unsigned char transliterated, std::vector<std::string>& keys);

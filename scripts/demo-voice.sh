@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Makes a placeholder voice for one language: a WAV file for every prompt the
 # language can answer with, spoken by espeak-ng, so that `vela say` can be
-# heard before real recordings exist.
+# heard before real recordings exist. The recordings are what telephony
+# platforms play: mono 16-bit WAV at 16 kHz (RATE=8000 for 8 kHz), with the
+# silence at both ends cut (sox).
 #
 #   scripts/demo-voice.sh TAG [-t] [DIR]     (DIR defaults to voice/TAG, voice/TAG-t with -t)
 #
@@ -30,10 +32,14 @@ if [ ! -x "$vela" ]; then
   echo "demo-voice: no $vela; build it first: cmake --build build --target vela" >&2
   exit 2
 fi
-if ! command -v espeak-ng >/dev/null; then
-  echo "demo-voice: espeak-ng is missing; run scripts/setup.sh" >&2
-  exit 2
-fi
+for program in espeak-ng sox; do
+  if ! command -v $program >/dev/null; then
+    echo "demo-voice: $program is missing; run scripts/setup.sh" >&2
+    exit 2
+  fi
+done
+rate=${RATE:-16000}
+case "$rate" in 8000 | 16000) ;; *) echo "demo-voice: RATE is 8000 or 16000" >&2; exit 2 ;; esac
 
 # The espeak-ng voice that reads the language's prompt names best. Names in
 # Latin transliteration are read by a voice that pronounces Latin letters
@@ -55,12 +61,17 @@ voice_for() {
 voice=$(voice_for "$tag")
 
 mkdir -p "$dir"
+raw=$(mktemp --suffix=.wav)
+trap 'rm -f "$raw"' EXIT
 count=0
 while IFS=$'\t' read -r name file; do
   # What espeak-ng says: the name, with marks that are no letters read as pauses.
   spoken=$(printf '%s' "$name" | tr '^_' '  ')
-  espeak-ng -v "$voice" -s 150 -w "$dir/$file" -- "$spoken"
+  espeak-ng -v "$voice" -s 150 -w "$raw" -- "$spoken"
+  # Mono at the telephone rate; silence below -45 dBFS cut at the start, and
+  # (reversed) at the end.
+  sox "$raw" -r "$rate" -c 1 -b 16 "$dir/$file" silence 1 0.005 -45d reverse silence 1 0.005 -45d reverse
   count=$((count + 1))
 done < <("$vela" prompts -l "$tag" "${mode[@]}" --files)
-echo "demo-voice: $count recordings in $dir (espeak-ng voice $voice)"
-"$vela" prompts -l "$tag" "${mode[@]}" --check "$dir" >/dev/null
+echo "demo-voice: $count recordings in $dir ($rate Hz, espeak-ng voice $voice)"
+"$vela" voice check -l "$tag" "${mode[@]}" "$dir" | tail -n 3 || true

@@ -12,6 +12,9 @@ packages=(
   libicu-dev
   locales
   libsndfile1-dev python3 python3-pytest espeak-ng
+  libsoxr-dev libebur128-dev sox
+  asterisk-core-sounds-ru asterisk-core-sounds-ru-wav asterisk-core-sounds-en asterisk-core-sounds-en-wav
+  clang libclang-rt-14-dev
   cloc
   build-essential debhelper dh-python lintian help2man man-db
   python3-setuptools python3-pip python3-wheel

@@ -2,7 +2,7 @@
 # Sets up the machine, builds, and runs every test: once in a normal build
 # (build/), once under AddressSanitizer + UndefinedBehaviorSanitizer
 # (build-asan/), the multi-thread tests under ThreadSanitizer (build-tsan/),
-# then the Windows DLLs under wine.
+# the Debian packages, then the Windows DLLs under wine.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh
@@ -26,6 +26,14 @@ cmake -S . -B build-tsan -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVELA_TSAN=
 cmake --build build-tsan -j "$jobs" --target vela_tests
 TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1 \
   build-tsan/tests/vela_tests --gtest_filter='ThreadsTest.*'
+
+# The Debian packages, built from this tree and checked by lintian (a few
+# minutes); on CI, a throwaway machine, also installed with apt and tried as a
+# user would (tests/install/deb_test.sh).
+bash scripts/package.sh
+if [ "${CI:-}" = true ]; then
+  bash tests/install/deb_test.sh dist
+fi
 
 # The Windows DLLs, cross-built and checked under wine (a few minutes; more the
 # first time on a machine, when it installs mingw-w64 and wine).

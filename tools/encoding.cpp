@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "audio/render.h"
+
 namespace vela::tools {
 namespace {
 
@@ -20,12 +22,6 @@ const std::array<std::string, 256>& utf8Table() {
     return t;
   }();
   return table;
-}
-
-bool disliked(unsigned char byte, bool first) {
-  if (byte < 0x20 || byte == 0x7F || byte == 0x98) return true;
-  if (first && byte == '.') return true;
-  return std::strchr("/\\:*?\"<>|%", byte) != nullptr;
 }
 
 }  // namespace
@@ -53,20 +49,7 @@ std::string utf8FromCp1251(const std::string& bytes) {
   return out;
 }
 
-std::string recordingFileName(const std::string& name) {
-  std::string file;
-  for (std::size_t i = 0; i < name.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(name[i]);
-    if (disliked(byte, i == 0)) {
-      char escaped[4];
-      std::snprintf(escaped, sizeof escaped, "%%%02X", byte);
-      file += escaped;
-    } else {
-      file += utf8Table()[byte];
-    }
-  }
-  return file + ".wav";
-}
+std::string recordingFileName(const std::string& name) { return audio::promptFileStem(name) + ".wav"; }
 
 bool skipByteOrderMark(std::string& text) {
   if (text.rfind("\xEF\xBB\xBF", 0) != 0) return false;

@@ -271,4 +271,46 @@ std::set<std::string> promptInventory(const boost::shared_ptr<IGrammar>& grammar
   return names;
 }
 
+namespace {
+
+// A marked date is written with "(I)" after it: 1.05(I).
+std::string dateText(const DateInput& d) {
+  return d.day + "." + d.month + (d.year.empty() ? "" : "." + d.year) + (d.marked ? "(I)" : "");
+}
+
+std::string timeText(const TimeInput& t) {
+  return t.hours + ":" + t.minutes + (t.seconds.empty() ? "" : ":" + t.seconds);
+}
+
+}  // namespace
+
+void forEachReading(const std::string& tag, unsigned char mode,
+                    const std::function<void(const std::string& text, const std::string& answer)>& visit) {
+  std::string error;
+  const Grammar grammar = grammarOf(tag, mode, error);
+  std::vector<std::string> listed;
+  listUnitKeys(tag, mode, listed);
+  const std::vector<std::string> units = findUnitWords(grammar, listed);
+  const QuietGrammars quiet;
+  const SlotCaller slots(grammar);
+  for (int byte = 1; byte < 256; ++byte) {
+    const std::string text(1, static_cast<char>(byte));
+    if (const auto out = speakText(grammar, text)) visit(text, *out);
+  }
+  for (const std::string& token : numberTokens()) {
+    if (takenAsNumber(token)) visit(token, slots.number(token));
+  }
+  for (const std::string& unit : units) {
+    for (const AmountInput& a : amountInputs()) {
+      const std::string text =
+          (a.negative ? "-" : "") + a.intDigits + (a.fracDigits.empty() ? "" : "." + a.fracDigits) + unit;
+      visit(text, slots.amount(a.intDigits, a.fracDigits, unit, a.negative));
+    }
+  }
+  for (const DateInput& d : dateInputs()) visit(dateText(d), slots.date(d));
+  for (const TimeInput& t : clockInputs()) visit(timeText(t), slots.clock(t));
+  for (const TimeInput& t : durationInputs()) visit('"' + timeText(t) + '"', slots.duration(t));
+  for (const std::string& keys : keypadStrings()) visit('"' + keys + '"', slots.digitString(keys));
+}
+
 }  // namespace vela::tools

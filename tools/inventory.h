@@ -3,6 +3,7 @@
 #pragma once
 
 #include <boost/shared_ptr.hpp>
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -28,6 +29,14 @@ std::vector<std::string> findUnitWords(const boost::shared_ptr<IGrammar>& gramma
 std::set<std::string> promptInventory(const std::string& tag, unsigned char mode);
 std::set<std::string> promptInventory(const boost::shared_ptr<IGrammar>& grammar,
                                       const std::vector<std::string>& listed);
+
+// Calls `visit(text, answer)` for inputs of the inventory's enumeration that
+// can be written as a request: `text` (Windows-1251) is what a caller would
+// send and `answer` what the grammar says for it (the request itself may be
+// read otherwise: check with speakNames). Amounts, bare numbers, keypad
+// strings, dates, clock times, spans and single characters.
+void forEachReading(const std::string& tag, unsigned char mode,
+                    const std::function<void(const std::string& text, const std::string& answer)>& visit);
 
 // The prompt names of one request, or nullopt when no rule takes the text
 // (the library then hands the text itself back).

@@ -82,8 +82,9 @@ def test_audio_matches_vela_say(start_server, voice, tmp_path):
                     "-o", str(said), TEXT], check=True)
     assert body == said.read_bytes()
     if shutil.which("soxi"):
-        info = subprocess.run(["soxi", "-r", "-e", str(said)], capture_output=True, text=True)
-        assert info.stdout.split("\n")[0] == "8000"
+        def soxi(flag):
+            return subprocess.run(["soxi", flag, str(said)], capture_output=True, text=True).stdout.strip()
+        assert (soxi("-r"), soxi("-e")) == ("8000", "u-law")
 
 
 # What replaces a partial file: one row per reason, with what the body names.

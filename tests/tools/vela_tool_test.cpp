@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -104,6 +105,23 @@ TEST(VelaToolTest, VersionIsTheLibrarys) {
   const ToolResult r = runTool("--version");
   EXPECT_EQ(r.out, std::string("vela ") + vela_version() + "\n");
   EXPECT_EQ(r.status, 0);
+}
+
+// vela(1) is made from --help at build time: every option and command that
+// --help names must be in it, and so must the examples.
+TEST(VelaToolTest, ManPageCoversHelp) {
+  std::string page = readFile(std::string(VELA_TOOL_PATH) + ".1");
+  ASSERT_FALSE(page.empty()) << "no man page beside the tool";
+  for (std::size_t at; (at = page.find("\\-")) != std::string::npos;) page.erase(at, 1);
+  const std::string help = runTool("--help").out;
+  const std::regex named(R"((?:^|[\s\[|,])(--?[a-z][a-z-]*)|\n  or:  vela ([a-z]+))");
+  int names = 0;
+  for (std::sregex_iterator it(help.begin(), help.end(), named), end; it != end; ++it, ++names) {
+    const std::string name = (*it)[1].matched ? (*it)[1].str() : (*it)[2].str();
+    EXPECT_NE(page.find(name), std::string::npos) << name;
+  }
+  EXPECT_GT(names, 10);
+  EXPECT_NE(page.find(".SH EXAMPLES"), std::string::npos);
 }
 
 // The words a language reads after a number come from its tables, each with

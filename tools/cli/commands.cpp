@@ -8,16 +8,13 @@ extern const Command kSpeak;    // speak.cpp
 extern const Command kPrompts;  // prompts.cpp
 extern const Command kSay;      // say.cpp
 extern const Command kUnits;    // units.cpp
+extern const Command kVoice;    // voice.cpp
 extern const Command kServe;    // serve.cpp
 
 namespace {
 
 constexpr const Command* kCommands[] = {
-    &kSpeak,
-    &kPrompts,
-    &kSay,
-    &kUnits,
-    &kServe,
+    &kSpeak, &kPrompts, &kSay, &kUnits, &kVoice, &kServe,
 };
 
 }  // namespace

@@ -1,12 +1,10 @@
 // vela prompts: every prompt name a language can answer with; --check finds
 // the ones a folder of recordings lacks.
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <vector>
 
 #include "tools/cli/text.h"
+#include "tools/cli/voice_options.h"
 #include "tools/encoding.h"
 #include "tools/inventory.h"
 
@@ -15,8 +13,10 @@ namespace {
 
 struct PromptsOptions {
   LanguageOptions language;
-  std::string checkDir;    // --check
+  std::string checkDir;    // --check: the voice check of one folder
   bool withFiles = false;  // --files
+  bool script = false;     // --script (voice_options.h)
+  std::string format;      // --format, of the script
 };
 
 PromptsOptions parsePrompts(Arguments& args) {
@@ -27,6 +27,10 @@ PromptsOptions parsePrompts(Arguments& args) {
       options.withFiles = true;
     } else if (args.current() == "--check" && args.isOption()) {
       options.checkDir = args.value();
+    } else if (args.current() == "--script" && args.isOption()) {
+      options.script = true;
+    } else if (args.current() == "--format" && args.isOption()) {
+      options.format = args.value();
     } else {
       args.reject();
     }
@@ -34,39 +38,29 @@ PromptsOptions parsePrompts(Arguments& args) {
   return options;
 }
 
-bool isDirectory(const std::string& path) {
-  struct stat st {};
-  return stat(path.c_str(), &st) == 0 && S_ISDIR(st.st_mode);
-}
-
-bool isReadableFile(const std::string& path) {
-  struct stat st {};
-  return stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode) && access(path.c_str(), R_OK) == 0;
+// --check and --script are voice commands (tools/cli/voice_options.h).
+std::optional<int> runVoicePart(const PromptsOptions& options, std::FILE* out) {
+  if (options.checkDir.empty() && !options.script) return std::nullopt;
+  VoiceOptions voice;
+  voice.language = options.language;
+  voice.format = options.format;
+  if (options.script) return runPromptScript(voice, out);
+  voice.positional.push_back(options.checkDir);
+  return runVoiceCheck(voice, out);
 }
 
 int runPrompts(Arguments& args, std::FILE* out) {
   const PromptsOptions options = parsePrompts(args);
-  if (!options.checkDir.empty() && !isDirectory(options.checkDir)) {
-    std::fprintf(stderr, "vela: %s is not a directory\n", options.checkDir.c_str());
-    return 2;
-  }
+  if (const std::optional<int> status = runVoicePart(options, out)) return *status;
   int status = checkTag(options.language) ? 0 : 1;
   std::vector<std::string> lines;
-  std::size_t total = 0;
   for (const std::string& name : tools::promptInventory(options.language.tag, options.language.mode)) {
-    ++total;
     const std::string file = tools::recordingFileName(name);
-    if (!options.checkDir.empty() && isReadableFile(options.checkDir + "/" + file)) continue;
     lines.push_back(shownName(options.language, name) + (options.withFiles ? "\t" + file : ""));
   }
   std::sort(lines.begin(), lines.end());
   for (const std::string& line : lines) std::fprintf(out, "%s\n", line.c_str());
   std::fflush(out);
-  if (!options.checkDir.empty()) {
-    std::fprintf(stderr, "vela: %zu of %zu recordings missing in %s\n", lines.size(), total,
-                 options.checkDir.c_str());
-    if (!lines.empty()) status = 1;
-  }
   return status;
 }
 
@@ -74,15 +68,17 @@ int runPrompts(Arguments& args, std::FILE* out) {
 
 extern const Command kPrompts = {
     "prompts",
-    "prompts [-l TAG] [-t] [--raw] [--files] [--check DIR]\n",
+    "prompts [-l TAG] [-t] [--raw] [--files] [--check DIR] [--script [--format tsv|html]]\n",
     "  prompts        print every prompt name the language can answer with, one a\n"
     "                 line, sorted by byte\n"
     "    --files      add a tab and the recording's file name, NAME.wav, to each\n"
     "                 line: NAME is the prompt name in UTF-8, with the bytes\n"
     "                 / \\ : * ? \" < > | %, control bytes and a leading dot written\n"
     "                 as %XX (hexadecimal of the Windows-1251 byte)\n"
-    "    --check DIR  print only the prompts without a recording DIR/NAME.wav;\n"
-    "                 exit with 1 when any is missing\n",
+    "    --check DIR  vela voice check -l TAG DIR: what needs fixing in DIR's\n"
+    "                 recordings; exit with 1 when anything does\n"
+    "    --script     every prompt with up to two texts that say it and their\n"
+    "                 whole answers, for the voice talent (--format tsv or html)\n",
     runPrompts,
 };
 

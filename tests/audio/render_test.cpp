@@ -1,0 +1,189 @@
+// Rendering: recordings of any rate, channels and encoding become one file in
+// the format asked; trimming, pauses, errors and fingerprints.
+#include "audio/render.h"
+
+#include <fstream>
+
+#include "audio/analysis.h"
+#include "tests/audio/audio_test_support.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using vela::audio::Container;
+using vela::audio::Encoding;
+using vela::testing::readBack;
+using vela::testing::writeSound;
+
+class RenderTest : public vela::testing::ScratchTest {
+ protected:
+  vela::audio::Voice voice() const { return vela::audio::Voice{{dir_.string()}}; }
+
+  // Renders and writes the bytes to out.bin; the rendered answer.
+  vela::audio::Rendered render(const std::vector<std::string>& names,
+                               const vela::audio::RenderOptions& options) {
+    vela::audio::Rendered answer = vela::audio::renderPrompts(voice(), names, options);
+    std::ofstream(dir_ / "out.bin", std::ios::binary) << answer.bytes;
+    return answer;
+  }
+};
+
+TEST_F(RenderTest, RecordingsOfAnyFormatBecomeTheFormatAsked) {
+  struct Recording {
+    const char* file;
+    int rate, channels, format;
+    long frames;
+  };
+  struct Row {
+    const char* what;
+    std::vector<Recording> recordings;
+    vela::audio::OutputFormat format;
+    int sfFormat;  // what libsndfile reads back (0: headerless)
+    int rate;
+  };
+  const int wav16 = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
+  const Row rows[] = {
+      {"44.1 kHz stereo among 16 kHz mono, to 8 kHz mu-law WAV",
+       {{"a.wav", 16000, 1, wav16, 8000}, {"b.wav", 44100, 2, wav16, 22050}},
+       {8000, 1, Encoding::ulaw, Container::wav},
+       SF_FORMAT_WAV | SF_FORMAT_ULAW,
+       8000},
+      {"float and FLAC to 16 kHz A-law, headerless",
+       {{"a.wav", 22050, 1, SF_FORMAT_WAV | SF_FORMAT_FLOAT, 11025},
+        {"b.flac", 48000, 1, SF_FORMAT_FLAC | SF_FORMAT_PCM_16, 24000}},
+       {16000, 1, Encoding::alaw, Container::raw},
+       0,
+       16000},
+      {"rate 0 keeps the first recording's",
+       {{"a.wav", 11025, 2, SF_FORMAT_WAV | SF_FORMAT_PCM_24, 5512},
+        {"b.wav", 8000, 1, SF_FORMAT_WAV | SF_FORMAT_ULAW, 4000}},
+       {0, 1, Encoding::pcm16, Container::wav},
+       wav16,
+       11025},
+  };
+  for (const Row& row : rows) {
+    fs::remove_all(dir_);
+    fs::create_directories(dir_);
+    for (const Recording& r : row.recordings)
+      writeSound(dir_ / r.file, r.rate, r.channels, r.frames, r.format);
+    vela::audio::RenderOptions options;
+    options.format = row.format;
+    options.pauseMs = 100;
+    const vela::audio::Rendered answer = render({"a", "b"}, options);
+    ASSERT_TRUE(answer.ok()) << row.what << ": " << answer.errors[0].message;
+    EXPECT_EQ(answer.format.rate, row.rate) << row.what;
+    // Each recording lasts half a second: one second and the pause.
+    const long expected = row.rate + row.rate / 10;
+    if (row.sfFormat == 0) {
+      const int bytesPerFrame = row.format.encoding == Encoding::pcm16 ? 2 : 1;
+      EXPECT_NEAR(static_cast<double>(answer.bytes.size()) / bytesPerFrame, expected, 4) << row.what;
+      continue;
+    }
+    const auto back = readBack(dir_ / "out.bin");
+    EXPECT_EQ(back.info.format, row.sfFormat) << row.what;
+    EXPECT_EQ(back.info.samplerate, row.rate) << row.what;
+    EXPECT_EQ(back.info.channels, 1) << row.what;
+    EXPECT_NEAR(static_cast<double>(back.info.frames), expected, 4) << row.what;
+  }
+}
+
+TEST_F(RenderTest, SameRateRecordingsAreCopiedSampleForSampleWithPauses) {
+  vela::testing::writeTone(dir_ / "a.wav", 8000, 1, 800);
+  vela::testing::writeTone(dir_ / "b.wav", 8000, 1, 1200);
+  vela::audio::RenderOptions options;
+  options.pauseMs = 100;
+  ASSERT_TRUE(render({"a", "b", "a"}, options).ok());
+  const auto back = readBack(dir_ / "out.bin");
+  ASSERT_EQ(back.info.frames, 800 + 800 + 1200 + 800 + 800);
+  struct Piece {
+    long start, frames;
+  };
+  for (const Piece& p : {Piece{0, 800}, Piece{1600, 1200}, Piece{3600, 800}}) {
+    for (long i = 0; i < p.frames; i += 37)
+      ASSERT_EQ(back.samples[p.start + i], vela::testing::toneSample(i, 0));
+  }
+  for (long i = 800; i < 1600; i += 11) ASSERT_EQ(back.samples[i], 0);
+}
+
+TEST_F(RenderTest, TrimCutsQuietEndsOnlyWhenAsked) {
+  // 0.2 s of silence, 0.1 s of tone, 0.3 s of silence at 8 kHz.
+  SF_INFO info{};
+  info.samplerate = 8000;
+  info.channels = 1;
+  info.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
+  SNDFILE* f = sf_open((dir_ / "a.wav").c_str(), SFM_WRITE, &info);
+  std::vector<short> samples(4800, 0);
+  for (int i = 1600; i < 2400; ++i) samples[i] = vela::testing::toneSample(i, 0);
+  sf_writef_short(f, samples.data(), 4800);
+  sf_close(f);
+  writeSound(dir_ / "quiet.wav", 8000, 1, 400, SF_FORMAT_WAV | SF_FORMAT_PCM_16, true);
+
+  struct Row {
+    std::optional<double> trimDb;
+    const char* name;
+    long frames;
+  };
+  const Row rows[] = {{std::nullopt, "a", 4800}, {-45.0, "a", 800}, {-45.0, "quiet", 400}};
+  for (const Row& row : rows) {
+    vela::audio::RenderOptions options;
+    options.trimDb = row.trimDb;
+    ASSERT_TRUE(render({row.name}, options).ok());
+    EXPECT_NEAR(static_cast<double>(readBack(dir_ / "out.bin").info.frames), row.frames, 2) << row.name;
+  }
+}
+
+TEST_F(RenderTest, EveryBadRecordingIsNamedAndNothingIsRendered) {
+  vela::testing::writeTone(dir_ / "a.wav", 8000, 1, 100);
+  std::ofstream(dir_ / "bad.wav") << "text";
+  const vela::audio::Rendered answer = render({"a", "gone", "bad", "a"}, {});
+  ASSERT_EQ(answer.errors.size(), 2u);
+  EXPECT_EQ(answer.errors[0].fault, vela::audio::Fault::missing);
+  EXPECT_EQ(answer.errors[0].prompt, "gone");
+  EXPECT_EQ(answer.errors[1].fault, vela::audio::Fault::unreadable);
+  EXPECT_TRUE(answer.bytes.empty());
+  EXPECT_FALSE(render({}, {}).ok());
+}
+
+TEST_F(RenderTest, FingerprintFollowsTheRecordingsAndTheOptions) {
+  vela::testing::writeTone(dir_ / "a.wav", 8000, 1, 100);
+  vela::testing::writeTone(dir_ / "b.wav", 8000, 1, 200);
+  const auto print = [&](const std::vector<std::string>& names, int pause) {
+    vela::audio::RenderOptions options;
+    options.pauseMs = pause;
+    return vela::audio::fingerprintPrompts(voice(), names, options).operator*();
+  };
+  const std::string first = print({"a", "b"}, 150);
+  vela::audio::RenderOptions options;
+  EXPECT_EQ(vela::audio::renderPrompts(voice(), {"a", "b"}, options).fingerprint, first);
+  EXPECT_EQ(print({"a", "b"}, 150), first);
+  EXPECT_NE(print({"b", "a"}, 150), first);
+  EXPECT_NE(print({"a", "b"}, 100), first);
+  vela::testing::writeTone(dir_ / "b.wav", 8000, 1, 201);
+  EXPECT_NE(print({"a", "b"}, 150), first);
+  EXPECT_FALSE(vela::audio::fingerprintPrompts(voice(), {"a", "gone"}, options));
+}
+
+TEST_F(RenderTest, MeasuresOfARecording) {
+  // 0.25 s silence, 0.5 s tone with four samples at full scale, 0.5 s silence.
+  SF_INFO info{};
+  info.samplerate = 16000;
+  info.channels = 1;
+  info.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
+  SNDFILE* f = sf_open((dir_ / "a.wav").c_str(), SFM_WRITE, &info);
+  std::vector<short> samples(20000, 0);
+  for (int i = 4000; i < 12000; ++i) samples[i] = vela::testing::toneSample(i, 0);
+  for (int i : {5000, 6000, 7000}) samples[i] = 32767;
+  samples[8000] = -32768;
+  sf_writef_short(f, samples.data(), 20000);
+  sf_close(f);
+  const auto sound = vela::audio::readRecording((dir_ / "a.wav").string());
+  ASSERT_TRUE(sound);
+  const vela::audio::Measures m = vela::audio::measureRecording(*sound, -45);
+  EXPECT_NEAR(m.leadingSilence, 0.25, 0.001);
+  EXPECT_NEAR(m.trailingSilence, 0.5, 0.001);
+  EXPECT_EQ(m.clippedSamples, 4);
+  // A sine of amplitude 8000/32768 is about -15 LUFS over its 400 ms windows.
+  EXPECT_NEAR(m.loudness, -15.3, 1.5);
+}
+
+}  // namespace
