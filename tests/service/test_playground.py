@@ -1,5 +1,6 @@
 """The playground page in headless Chromium: type a text, see its names and
-status, hear it (the audio element gets a duration), and list the prompts."""
+status, hear it (the audio element gets a duration), and list the prompts
+with their recordings and example texts."""
 import shutil
 import tempfile
 
@@ -68,10 +69,10 @@ def test_lists_prompts_with_their_recordings(start_server, voice_root, browser):
     wait.until(lambda d: d.find_element(By.TAG_NAME, "body").get_attribute("data-ready") == "1")
     browser.find_element(By.ID, "prompts-tab").click()
     rows = wait.until(lambda d: d.find_elements(By.CSS_SELECTOR, "#prompts tr") or False)
-    states = {}
+    states, examples = {}, {}
     for row in rows:
         cells = [cell.text for cell in row.find_elements(By.TAG_NAME, "td")]
-        states[cells[0]] = cells[2]
-    assert states["двадцать"] == "present"
+        states[cells[0]], examples[cells[0]] = cells[2], cells[3]
+    assert states["двадцать"] == "present" and examples["двадцать"] != ""
     assert states["тридцать"] == "missing"
     assert "5 recorded" in browser.find_element(By.ID, "prompts-summary").text
