@@ -101,13 +101,15 @@ TEST(RulesTest, DialStringHandler) {
   EXPECT_EQ(grammar.calls(), "dial(1#)");
 }
 
-// Very long runs of digits: every text of the Java entry's 10,240 bytes or more
-// finds its rule in one pass.
+// Very long runs of digits, on which a regular expression engine gives up:
+// every text of the Java entry's 10,240 bytes or more finds its rules in one pass.
 TEST(RulesTest, LongDigitRunsStillReachTheirRule) {
   const std::string digits(20000, '7');
   EXPECT_EQ(run(digits).first, "number(" + digits + ")");
   EXPECT_EQ(run(digits + "rub").first, "money(||" + digits + "||rub)");
   EXPECT_EQ(run(digits + "-rub").second, digits + "-rub");
+  EXPECT_EQ(rulesTakingWholeText("-" + digits + ",5rub"), 1u << kNegativeAmount | 1u << kNegativeFraction);
+  EXPECT_EQ(rulesTakingWholeText(digits + "-"), 0u);
 }
 
 TEST(SplitDigitGroupsTest, Table) {
