@@ -19,31 +19,37 @@ using JavaEntry = jbyteArray(JNICALL*)(JNIEnv*, jclass, jbyteArray, jbyteArray, 
 struct FakeJvm {
   FakeJvm() {
     self = this;
-    table.GetArrayLength = [](JNIEnv*, jarray a) { return static_cast<jsize>(of(a).size()); };
-    table.GetByteArrayElements = [](JNIEnv*, jbyteArray a, jboolean* isCopy) -> jbyte* {
-      if (self->handedOut == self->failAt) return nullptr;
-      ++self->handedOut;
-      ++self->held;
-      if (isCopy != nullptr) *isCopy = JNI_TRUE;
-      auto* copy = new jbyte[of(a).size()];
-      std::copy(of(a).begin(), of(a).end(), copy);
-      return copy;
-    };
-    table.ReleaseByteArrayElements = [](JNIEnv*, jbyteArray, jbyte* elements, jint mode) {
-      self->broken |= mode != 0;
-      --self->held;
-      delete[] elements;
-    };
-    table.NewByteArray = [](JNIEnv*, jsize length) {
-      return self->failNewArray ? nullptr : self->array(std::string(static_cast<std::size_t>(length), '\0'));
-    };
-    // The answer is set whole, in one call, and has no terminating zero.
-    table.SetByteArrayRegion = [](JNIEnv*, jbyteArray a, jsize start, jsize length, const jbyte* from) {
-      ++self->regionsSet;
-      self->broken |= start != 0 || static_cast<std::size_t>(length) != of(a).size();
-      if (!self->broken) std::copy(from, from + length, of(a).begin());
-    };
+    table.GetArrayLength = length;
+    table.GetByteArrayElements = elements;
+    table.ReleaseByteArrayElements = release;
+    table.NewByteArray = newArray;
+    table.SetByteArrayRegion = setRegion;
     env.functions = &table;
+  }
+
+  static jsize JNICALL length(JNIEnv*, jarray a) { return static_cast<jsize>(of(a).size()); }
+  static jbyte* JNICALL elements(JNIEnv*, jbyteArray a, jboolean* isCopy) {
+    if (self->handedOut == self->failAt) return nullptr;
+    ++self->handedOut;
+    ++self->held;
+    if (isCopy != nullptr) *isCopy = JNI_TRUE;
+    auto* copy = new jbyte[of(a).size()];
+    std::copy(of(a).begin(), of(a).end(), copy);
+    return copy;
+  }
+  static void JNICALL release(JNIEnv*, jbyteArray, jbyte* elements, jint mode) {
+    self->broken |= mode != 0;
+    --self->held;
+    delete[] elements;
+  }
+  static jbyteArray JNICALL newArray(JNIEnv*, jsize length) {
+    return self->failNewArray ? nullptr : self->array(std::string(static_cast<std::size_t>(length), '\0'));
+  }
+  // The answer is set whole, in one call, and has no terminating zero.
+  static void JNICALL setRegion(JNIEnv*, jbyteArray a, jsize start, jsize length, const jbyte* from) {
+    ++self->regionsSet;
+    self->broken |= start != 0 || static_cast<std::size_t>(length) != of(a).size();
+    if (!self->broken) std::copy(from, from + length, of(a).begin());
   }
 
   static std::string& of(jarray a) { return *reinterpret_cast<std::string*>(a); }
