@@ -66,6 +66,7 @@ const RuleCase kRules[] = {
     {"x", "char(x)", " char"},
     // pass-through and the empty text
     {"file.wav", "", "file.wav"},
+    {"-5.wav", "", "-5.wav"},  // a file name though a rule would take it
     {"", "", ""},
 };
 

@@ -155,7 +155,8 @@ const Reading kRawBytes[] = {
 
 TEST(ArabGrammar, RawBytes) { expectRawReadings("ar", kRawBytes); }
 
-// Out-of-range parts print their diagnostic and keep what came before.
+// Out-of-range parts print their diagnostic, keep what came before and
+// refuse the date.
 TEST(ArabGrammar, Diagnostics) {
   using Call = void (*)(ArabGrammar&, std::string&);
   const struct {
@@ -163,8 +164,9 @@ TEST(ArabGrammar, Diagnostics) {
     const char* appended;
     const char* printed;
   } cases[] = {
-      {[](auto& g, auto& out) { g.speakDate("32", "5", "2005", "", "", out); }, "", " incorrect day 32 \r\n"},
-      {[](auto& g, auto& out) { g.speakDate("5", "13", "2005", "", "", out); }, " lkhaamis min",
+      {[](auto& g, auto& out) { EXPECT_EQ(g.speakDate("32", "5", "2005", "", "", out), 0); }, "",
+       " incorrect day 32 \r\n"},
+      {[](auto& g, auto& out) { EXPECT_EQ(g.speakDate("5", "13", "2005", "", "", out), 0); }, " lkhaamis min",
        " incorrect month 13 \r\n"},
       {[](auto& g, auto& out) { g.speakClockTime("25", "00", out); }, "", "wrong time (hours) 25\r\n"},
       {[](auto& g, auto& out) { g.speakClockTime("-1", "00", out); }, "", "wrong time (hours) -1\r\n"},

@@ -79,6 +79,7 @@ const Reading kDatesAndTimes[] = {
 const Reading kChosen[] = {
     {"007", "zero zero  sapte"},
     {"100-1", "o suta  unu"},
+    {"12-345-6", " doisprezece trei sute patruzeci si cinci  sase"},
     {"05-0", "zero  cinci zero "},
     {"1234567890", "unu doi trei patru cinci sase sapte opt noua zero "},
     {"000123456789",
