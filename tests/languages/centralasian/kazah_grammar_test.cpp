@@ -71,7 +71,7 @@ TEST(KazahGrammar, ExactBytes) {
 }
 
 // Days and months the date patterns never deliver: the diagnostic, nothing
-// appended, 0 returned; an empty character says nothing.
+// appended, 0 returned; an empty character says nothing, a digit its word.
 TEST(KazahGrammar, RefusedDatesAndEmptyCharacter) {
   KazahGrammar g;
   std::string out = "x";
@@ -84,6 +84,8 @@ TEST(KazahGrammar, RefusedDatesAndEmptyCharacter) {
   EXPECT_EQ(result, 0);
   g.speakCharacter("", out);
   EXPECT_EQ(out, "x");
+  g.speakCharacter("7", out);  // a digit only a direct call hands over
+  EXPECT_EQ(out, "xzheti");
 }
 
 // The ordinal mark on the last word, or on the last scale word of a round
