@@ -55,11 +55,12 @@ def test_reads_and_plays_a_text(start_server, voice_root, browser):
         "return a.src && a.readyState >= 1 && a.duration > 0 ? a.duration : false;"))
     assert 0.3 < duration < 10
 
-    # A partial reading: its complaint-free status is shown and nothing plays.
+    # A partial reading: its status is shown and nothing plays.
     type_text(browser, "-5xyz")
     wait.until(lambda d: d.find_element(By.ID, "status").text == "partly spoken")
     assert shown_names(browser) == ["минус"]
     wait.until(lambda d: "not fully spoken" in d.find_element(By.ID, "audio-note").text)
+    assert not browser.find_element(By.ID, "audio").is_displayed()  # the earlier answer is gone
 
 
 def test_lists_prompts_with_their_recordings(start_server, voice_root, browser):
