@@ -338,12 +338,18 @@ void Server::remove(Session* session) {
 // Stops accepting and closes the connections that wait for a request; the
 // others close once their answer is written.
 void Server::stop() {
+  // The sessions are collected under the lock and told outside it: the last
+  // owner of a session may be this function, and a session's destructor
+  // takes the lock to remove itself.
+  std::vector<std::shared_ptr<Session>> open;
   {
     std::lock_guard lock(sessionsMutex_);
     stopping_ = true;
     for (auto& [raw, weak] : sessions_)
-      if (auto session = weak.lock()) net::post(session->executor(), [session] { session->closeIfIdle(); });
+      if (auto session = weak.lock()) open.push_back(std::move(session));
   }
+  for (auto& session : open) net::post(session->executor(), [session] { session->closeIfIdle(); });
+  open.clear();
   for (auto& worker : workers_)
     net::post(worker->ioc, [&acceptor = worker->acceptor] {
       beast::error_code ignored;

@@ -96,7 +96,8 @@ Response handleLanguages(Service& service, const Target&, const Request&) {
   return jsonResponse(200, json::object{{"languages", std::move(languages)}, {"voices", std::move(voices)}});
 }
 
-// GET /v1/prompts?lang=[&latin=1]: every prompt with its recording's state.
+// GET /v1/prompts?lang=[&latin=1]: every prompt, an example text that says
+// it, and its recording's state.
 Response handlePrompts(Service& service, const Target& target, const Request&) {
   const std::string* lang = target.find("lang");
   if (lang == nullptr || lang->empty()) return errorResponse(400, "the lang parameter is required");
@@ -113,8 +114,9 @@ Response handlePrompts(Service& service, const Target& target, const Request&) {
   const auto names = service.prompts(tag.bytes, latin);
   json::array prompts;
   std::size_t recorded = 0;
-  for (const std::string& name : *names) {
+  for (const auto& [name, example] : *names) {
     json::object entry{{"name", toUtf8(name)}, {"file", audio::promptFileStem(name) + ".wav"}};
+    if (!example.empty()) entry["example"] = toUtf8(example);
     if (voice != nullptr) {
       const std::string state = recordingState(*voice, name, entry);
       recorded += state == "present" ? 1 : 0;

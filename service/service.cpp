@@ -1,7 +1,5 @@
 #include "service/service.h"
 
-#include "tools/inventory.h"
-
 namespace vela::service {
 
 Service::Service(Config config, std::vector<std::string> routeNames)
@@ -22,14 +20,11 @@ std::vector<std::string> Service::voiceTags() const {
   return tags;
 }
 
-std::shared_ptr<const std::set<std::string>> Service::prompts(const std::string& tag, bool latin) {
+std::shared_ptr<const PromptList> Service::prompts(const std::string& tag, bool latin) {
   std::lock_guard lock(promptsMutex_);
-  auto& names = prompts_[{tag, latin}];
-  if (names == nullptr) {
-    const tools::QuietGrammars quiet;  // the inventory tries bad inputs on purpose
-    names = std::make_shared<const std::set<std::string>>(tools::promptInventory(tag, latin ? 1 : 0));
-  }
-  return names;
+  auto& list = prompts_[{tag, latin}];
+  if (list == nullptr) list = std::make_shared<const PromptList>(makePromptList(tag, latin));
+  return list;
 }
 
 void Service::reload() {

@@ -19,6 +19,7 @@
 #include "service/audio_cache.h"
 #include "service/fingerprints.h"
 #include "service/metrics.h"
+#include "service/prompt_list.h"
 
 namespace vela::service {
 
@@ -62,9 +63,9 @@ class Service {
   // The tags that have a voice ("ru", "ru-t", ...).
   std::vector<std::string> voiceTags() const;
 
-  // Every prompt name (Windows-1251, sorted) the language can answer with;
+  // Every prompt the language can answer with, and an example text of each;
   // worked out on the first request for the language and kept.
-  std::shared_ptr<const std::set<std::string>> prompts(const std::string& tag, bool latin);
+  std::shared_ptr<const PromptList> prompts(const std::string& tag, bool latin);
 
   // Forgets cached audio and prompt lists (SIGHUP): recordings are looked up
   // on every request anyway, so nothing stale is served between reloads.
@@ -81,7 +82,7 @@ class Service {
   FingerprintMemo fingerprints_{4096};
   std::map<std::string, std::shared_ptr<const audio::Voice>> voices_;
   std::mutex promptsMutex_;
-  std::map<std::pair<std::string, bool>, std::shared_ptr<const std::set<std::string>>> prompts_;
+  std::map<std::pair<std::string, bool>, std::shared_ptr<const PromptList>> prompts_;
   std::atomic<std::int64_t> open_{0};
 };
 

@@ -3,6 +3,7 @@ play (the same bytes as `vela say`), and the errors that replace a partial file.
 import json
 import os
 import shutil
+import signal
 import subprocess
 import urllib.error
 import urllib.parse
@@ -10,7 +11,7 @@ import urllib.request
 
 import pytest
 
-from conftest import VELA
+from conftest import VELA, wait_until
 
 TEXT = "21руб"  # двадцать один рубль
 
@@ -56,13 +57,20 @@ def test_audio_is_cached_by_etag_and_max_age(start_server, voice):
     assert 'vela_audio_cache_requests_total{result="hit"} 1' in metrics  # the HEAD
 
 
-def test_a_changed_recording_changes_the_etag(start_server, voice):
+def test_a_changed_voice_is_used_at_once(start_server, voice):
     server = start_server("--voice", "ru=%s" % voice)
     first = fetch(server, audio_path())
     shutil.copyfile(voice / "два.wav", voice / "один.wav")  # re-recorded in place
     second = fetch(server, audio_path(), {"If-None-Match": first[1]["ETag"]})
     assert second[0] == 200 and second[1]["ETag"] != first[1]["ETag"]
     assert second[2] != first[2]
+    # A recording that was missing is used as soon as it is there; SIGHUP
+    # (drop the cache) leaves the server serving.
+    assert fetch(server, audio_path(text="31руб"))[0] == 404
+    shutil.copyfile(voice / "два.wav", voice / "тридцать.wav")
+    server.proc.send_signal(signal.SIGHUP)
+    assert wait_until(lambda: any("reloaded" in line for line in server.stderr))
+    assert fetch(server, audio_path(text="31руб"))[0] == 200
 
 
 def test_audio_matches_vela_say(start_server, voice, tmp_path):
@@ -115,14 +123,3 @@ def test_files_for_asterisk_and_as_urls(start_server, voice):
     for url in urls:
         got = fetch(server, urllib.parse.urlsplit(url)._replace(scheme="", netloc="").geturl())
         assert got[0] == 200 and got[1]["Content-Type"] == "audio/wav" and "ETag" in got[1]
-
-
-def test_voice_folders_are_searched_in_order(start_server, voice, tmp_path):
-    front = tmp_path / "front"
-    front.mkdir()
-    shutil.copyfile(voice / "два.wav", front / "один.wav")
-    server = start_server("--voice", "ru=%s" % front, "--voice", "ru=%s" % voice)
-    alone = start_server("--voice", "ru=%s" % voice)
-    layered = fetch(server, audio_path())
-    plain = fetch(alone, audio_path())
-    assert layered[0] == plain[0] == 200 and layered[2] != plain[2]

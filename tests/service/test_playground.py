@@ -1,5 +1,6 @@
 """The playground page in headless Chromium: type a text, see its names and
-status, hear it (the audio element gets a duration), and list the prompts."""
+status, hear it (the audio element gets a duration), and list the prompts
+with their recordings and example texts."""
 import shutil
 import tempfile
 
@@ -54,11 +55,12 @@ def test_reads_and_plays_a_text(start_server, voice_root, browser):
         "return a.src && a.readyState >= 1 && a.duration > 0 ? a.duration : false;"))
     assert 0.3 < duration < 10
 
-    # A partial reading: its complaint-free status is shown and nothing plays.
+    # A partial reading: its status is shown and nothing plays.
     type_text(browser, "-5xyz")
     wait.until(lambda d: d.find_element(By.ID, "status").text == "partly spoken")
     assert shown_names(browser) == ["минус"]
     wait.until(lambda d: "not fully spoken" in d.find_element(By.ID, "audio-note").text)
+    assert not browser.find_element(By.ID, "audio").is_displayed()  # the earlier answer is gone
 
 
 def test_lists_prompts_with_their_recordings(start_server, voice_root, browser):
@@ -68,10 +70,10 @@ def test_lists_prompts_with_their_recordings(start_server, voice_root, browser):
     wait.until(lambda d: d.find_element(By.TAG_NAME, "body").get_attribute("data-ready") == "1")
     browser.find_element(By.ID, "prompts-tab").click()
     rows = wait.until(lambda d: d.find_elements(By.CSS_SELECTOR, "#prompts tr") or False)
-    states = {}
+    states, examples = {}, {}
     for row in rows:
         cells = [cell.text for cell in row.find_elements(By.TAG_NAME, "td")]
-        states[cells[0]] = cells[2]
-    assert states["двадцать"] == "present"
+        states[cells[0]], examples[cells[0]] = cells[2], cells[3]
+    assert states["двадцать"] == "present" and examples["двадцать"] != ""
     assert states["тридцать"] == "missing"
     assert "5 recorded" in browser.find_element(By.ID, "prompts-summary").text
