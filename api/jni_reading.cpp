@@ -65,7 +65,7 @@ extern "C" JNIEXPORT jint JNICALL Java_com_talvik_ostra_macrosynthesis_vela_Vela
   return stored ? answer : -2;
 }
 
-extern "C" JNIEXPORT jstring JNICALL Java_com_talvik_ostra_macrosynthesis_vela_Vela_version0(JNIEnv* env,
-                                                                                             jclass /*unused*/) {
+extern "C" JNIEXPORT jstring JNICALL
+Java_com_talvik_ostra_macrosynthesis_vela_Vela_version0(JNIEnv* env, jclass /*unused*/) {
   return env->NewStringUTF(vela_version());
 }

@@ -179,7 +179,9 @@ std::optional<std::string> findRecording(const Voice& voice, std::string_view na
   const std::string stem = promptFileStem(name);
   for (const std::string& folder : voice.folders) {
     for (std::string_view extension : kRecordingExtensions) {
-      std::string path = folder + "/" + stem;
+      std::string path = folder;
+      path += '/';
+      path += stem;
       path += extension;
       struct stat st {};
       // lstat: a dangling link or a link loop is there, and is reported as such.

@@ -244,7 +244,8 @@ Rendered renderPrompts(const Voice& voice, const std::vector<std::string>& names
   // Lengths are known before anything is converted: a long answer is refused first.
   double seconds = static_cast<double>(options.pauseMs) * static_cast<double>(sounds.size() - 1) / 1000.0;
   for (const Sound& s : sounds) seconds += static_cast<double>(s.info.frames) / s.info.rate;
-  if (seconds > kMaxAnswerSeconds) {
+  if (seconds > kMaxAnswerSeconds ||
+      seconds * rate * answer.format.channels > static_cast<double>(kMaxRecordingSamples)) {
     answer.errors.push_back(
         Error{Fault::tooLong, "", "",
               "the answer would last longer than " + std::to_string(kMaxAnswerSeconds) + " s"});

@@ -26,7 +26,8 @@ enum class Fault {
   empty,        // a zero-length file, or a header with no frames
   truncated,    // the data ends before the header says
   outOfBounds,  // rate, channels or length beyond the limits below
-  tooLong,      // the rendered answer would be longer than kMaxAnswerSeconds
+  tooLong,      // the answer would last longer than kMaxAnswerSeconds, or hold more
+                // than kMaxRecordingSamples samples
   cannotWrite,  // the output cannot be written
 };
 
@@ -34,8 +35,8 @@ enum class Fault {
 std::string_view faultName(Fault fault);
 
 // An error at the module's edge: what went wrong, for which prompt and file,
-// in a message a user can act on ("один.wav: the data ends after 100 of
-// 125,386 bytes its header declares").
+// in a message a user can act on ("voice/один.wav: the data ends after 56 of
+// the 2000 bytes its header declares").
 struct Error {
   Fault fault = Fault::unreadable;
   std::string prompt;  // the prompt name in UTF-8, or empty

@@ -60,8 +60,8 @@ function(vela_windows_dll target)
   install(FILES ${PROJECT_SOURCE_DIR}/include/vela/vela.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vela)
 
   # Loads the DLL by file name and runs the request table (tests/windows).
-  add_executable(vela_windows_host ${PROJECT_SOURCE_DIR}/tests/windows/host.c
-    ${PROJECT_SOURCE_DIR}/tests/windows/ascii_call.cpp)
+  add_executable(vela_windows_host ${PROJECT_SOURCE_DIR}/tests/windows/host.cpp)
+  target_include_directories(vela_windows_host PRIVATE ${PROJECT_SOURCE_DIR}/tests ${PROJECT_SOURCE_DIR}/include)
   target_link_libraries(vela_windows_host PRIVATE JNI::JNI)
   target_link_options(vela_windows_host PRIVATE -static)
   # Links through the import library and the public header, as a C host would.

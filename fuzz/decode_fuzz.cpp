@@ -1,6 +1,7 @@
 // Fuzz target for a whole request: the first byte picks the language tag from
 // every tag the library knows, an unknown one and an empty one; the second is
-// the mode, as the Java entry passes it; the rest is the text. Any crash,
+// the mode, as the Java entry passes it (its two low bits are vela_read's
+// options); the rest is the text. Any crash,
 // sanitizer report or lost buffer is a finding. Built as a libFuzzer target
 // with clang (-DVELA_FUZZ=ON), and always as the deterministic smoke run in
 // fuzz_smoke.cpp.
@@ -43,6 +44,25 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (out == nullptr) std::abort();
     decodeReleaseBuffer(out);
   }
+
+  // vela_read: the mode's low bits are its options.
+  const unsigned options = mode & (VELA_LATIN | VELA_STRICT_TAG);
+  vela_reading reading{};
+  const int rc = vela_read(tag.c_str(), text.c_str(), options, &reading);
+  if (rc == -3 && (options & VELA_STRICT_TAG) == 0) std::abort();
+  if (rc == 0) {
+    const std::string_view names = reading.names == nullptr ? "" : reading.names;
+    const std::string_view diagnostics = reading.diagnostics == nullptr ? "" : reading.diagnostics;
+    if (reading.names == nullptr || reading.diagnostics == nullptr) std::abort();
+    if (reading.status < VELA_SPOKEN || reading.status > VELA_FILE_NAMES) std::abort();
+    // Single spaces between names, none at either end; every complaint ends its line.
+    if (!names.empty() && (names.front() == ' ' || names.back() == ' ')) std::abort();
+    if (names.find("  ") != std::string_view::npos) std::abort();
+    if (!diagnostics.empty() && diagnostics.back() != '\n') std::abort();
+  } else if (reading.names != nullptr || reading.diagnostics != nullptr) {
+    std::abort();  // zeroed on every error
+  }
+  vela_reading_free(&reading);
 
   std::vector<std::string> files;
   std::ostringstream log;

@@ -16,11 +16,16 @@
 
 namespace {
 
+// A folder of its own for the process's recording file, removed at exit.
+char gFolder[] = "/tmp/vela-voice-fuzz-XXXXXX";
+
+void removeFolder() { rmdir(gFolder); }
+
 const std::string& scratchFolder() {
   static const std::string folder = [] {
-    char name[] = "/tmp/vela-voice-fuzz-XXXXXX";
-    if (mkdtemp(name) == nullptr) std::abort();
-    return std::string(name);
+    if (mkdtemp(gFolder) == nullptr) std::abort();
+    std::atexit(removeFolder);
+    return std::string(gFolder);
   }();
   return folder;
 }

@@ -56,10 +56,8 @@ mkdir -p build/windows
 quiet build/windows/configure.log cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
 quiet build/windows/build.log cmake --build build -j "$jobs" --target libvela.so
 jdk_include=$(dirname "$(dirname "$(readlink -f "$(command -v javac)")")")/include
-quiet build/windows/host.log cc -std=c11 -Wall -Wextra -Werror -O1 -I"$jdk_include" -I"$jdk_include/linux" \
-  -c tests/windows/host.c -o build/windows/host.o
-quiet build/windows/host.log c++ -std=c++20 -Wall -Wextra -Werror -O1 \
-  tests/windows/ascii_call.cpp build/windows/host.o -ldl -o build/windows/host
+quiet build/windows/host.log c++ -std=c++20 -Wall -Wextra -Werror -O1 -I"$jdk_include" -I"$jdk_include/linux" \
+  -Itests -Iinclude tests/windows/host.cpp -ldl -o build/windows/host
 iconv -f UTF-8 -t CP1251 tests/windows/requests.tsv >build/windows/requests.txt
 if ! build/windows/host build/libvela.so build/windows/requests.txt build/windows/answers.txt \
   >build/windows/library-output.txt 2>build/windows/write.log; then

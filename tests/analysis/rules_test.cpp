@@ -25,8 +25,9 @@ struct RuleCase {
   std::string result;  // what the runner leaves
 };
 
-// Which rule takes which text, and which groups and digit lists its handler
-// passes on. The recording grammar answers every operation with " op".
+// Which groups and digit lists each rule's handler passes on (which rule takes
+// which text is the differential test's business). The recording grammar
+// answers every operation with " op".
 const RuleCase kRules[] = {
     // negative amounts: the amount, then the minus word in front, even of nothing
     {"-12,5rub", "money(2,1|5|12|5|rub)", "MINUS money"},
@@ -42,15 +43,12 @@ const RuleCase kRules[] = {
     {"12345678901rub", "money(||12345678901||rub)", " money"},
     {"5.5pcs", "", ""},  // a fraction with a unit that takes none
     {"5xyz", "", ""},    // unknown unit
-    {"5 rub", "", "5 rub"},
-    {"5ёж"_cp, "", "5ёж"_cp},  // ё is not a letter of the unit class
     // dates
     {"31.12.1999", "date(31|12|1999|19|99)", " date"},
     {"31.12.1999(I)", "date(31|12|1999|I|99)", " date"},
     {"12.05(I)", "date(12|05||I|)", " date"},
     {"1.5", "date(1|5|||)", " date"},
     {"7.00", "date(7|00|||)", " date"},
-    {"31.12.2100", "", "31.12.2100"},
     // numbers
     {"32.1", "number(32.1)", " number"},
     {"1.50", "number(1.50)", " number"},
@@ -58,21 +56,17 @@ const RuleCase kRules[] = {
     {"1,5", "number(1,5)", " number"},
     {"15", "number(15)", " number"},
     {"0-05-120", "number(0-05-120)", " number"},
-    {"-5", "", "-5"},
     // quoted digit strings and spans; clock times
     {"\"12#*\"", "digits(\"12#*\")", " digits"},
     {"\"125:30\"", "span(125|30)", " span"},
     {"\"1:02:03\"", "spans(1|02|03)", " spans"},
     {"12:30", "clock(12|30)", " clock"},
     {"7:05:09", "clocks(7|05|09)", " clocks"},
-    {"123:45", "", "123:45"},
-    // one character; a lone byte above 0x7F is not printable
+    // one character
     {"x", "char(x)", " char"},
-    {"\xB8", "", "\xB8"},
-    {"ab", "", "ab"},
     // pass-through and the empty text
     {"file.wav", "", "file.wav"},
-    {"12 ab.wav", "", "12 ab.wav"},
+    {"-5.wav", "", "-5.wav"},  // a file name though a rule would take it
     {"", "", ""},
 };
 
@@ -101,13 +95,15 @@ TEST(RulesTest, DialStringHandler) {
   EXPECT_EQ(grammar.calls(), "dial(1#)");
 }
 
-// Very long runs of digits: every text of the Java entry's 10,240 bytes or more
-// finds its rule in one pass.
+// Very long runs of digits, on which a regular expression engine gives up:
+// every text of the Java entry's 10,240 bytes or more finds its rules in one pass.
 TEST(RulesTest, LongDigitRunsStillReachTheirRule) {
   const std::string digits(20000, '7');
   EXPECT_EQ(run(digits).first, "number(" + digits + ")");
   EXPECT_EQ(run(digits + "rub").first, "money(||" + digits + "||rub)");
   EXPECT_EQ(run(digits + "-rub").second, digits + "-rub");
+  EXPECT_EQ(rulesTakingWholeText("-" + digits + ",5rub"), 1u << kNegativeAmount | 1u << kNegativeFraction);
+  EXPECT_EQ(rulesTakingWholeText(digits + "-"), 0u);
 }
 
 TEST(SplitDigitGroupsTest, Table) {

@@ -135,7 +135,8 @@ std::string complaintLines(const std::string& printed) {
 }
 
 TEST(ReadingTest, AgreesWithTheStatedExportsOnACorpus) {
-  const std::vector<std::string> units = {"руб"_cp, "коп"_cp, "грн"_cp, "usd", "kb", "min", "lei", "som", "sec"};
+  const std::vector<std::string> units = {"руб"_cp, "коп"_cp, "грн"_cp, "usd", "kb",
+                                          "min",    "lei",    "som",    "sec"};
   const char* const kTags[] = {"ru", "uk", "en", "ro", "ar", "kk", "uz", "tg", "ka", "hy", "xx"};
   testing::TextCorpus corpus(7, units, 30);
   int spoken = 0, partly = 0, notSpoken = 0;

@@ -37,13 +37,12 @@ const GroupCase kGroups[] = {
     {"1,5", 0, {1, 100, 0, 0, 5}},
 };
 
+std::vector<int> fields(const DigitGroup& d) { return {d.value, d.hundreds, d.tens, d.teen, d.units}; }
+
 TEST(DigitGroupTest, Table) {
   for (const auto& c : kGroups) {
     DigitGroup g{1, 1, 1, 1, 1};
     getDigitGroup(c.number, &g, c.cut);
-    const auto fields = [](const DigitGroup& d) {
-      return std::vector{d.value, d.hundreds, d.tens, d.teen, d.units};
-    };
     EXPECT_EQ(fields(g), fields(c.expected)) << c.number << " cut " << c.cut;
   }
 }
@@ -57,9 +56,6 @@ TEST(DigitGroupTest, AllCutsAgreeWithOneCut) {
                          "99999999999x123456789012", "999999999999999x12345678", "1234567890123456789"};
   std::vector<std::string> numbers(std::begin(extra), std::end(extra));
   for (const auto& c : kGroups) numbers.emplace_back(c.number);
-  const auto fields = [](const DigitGroup& d) {
-    return std::vector{d.value, d.hundreds, d.tens, d.teen, d.units};
-  };
   const int cuts[4] = {9, 6, 3, 0};
   for (const std::string& number : numbers) {
     const std::array<DigitGroup, 4> all = getDigitGroups(number);

@@ -56,7 +56,12 @@ bool takeLanguageOption(Arguments& args, LanguageOptions& options);
 struct Command {
   std::string_view name;  // the first argument that selects it; "" for speaking texts
   const char* synopsis;   // its usage line(s), each after "vela", ending in "\n"
-  const char* help;       // its paragraph in --help, ending in "\n"
+  // Its part of --help, ending in "\n", from which help2man makes the man page:
+  // a named command's lines go under "Commands:", "  NAME" with its description
+  // from column 17 on, each of its options on a line of its own indented by
+  // four, description also from column 17 (see prompts.cpp). Speaking's part is
+  // a paragraph after the description of the tool.
+  const char* help;
   // Parses the command's options (throwing UsageError), then does its work and
   // returns the exit status. `out` is the standard output for its results.
   int (*run)(Arguments& args, std::FILE* out);

@@ -16,7 +16,7 @@ std::string firstUnwritable(const std::string& text) {
   for (std::size_t start = 0, end = 0; start < text.size(); start = end) {
     end = start + 1;
     while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) ++end;
-    const std::string character = text.substr(start, end - start);
+    std::string character = text.substr(start, end - start);
     if (!tools::convert(character, "WINDOWS-1251", "UTF-8")) return character;
   }
   return "";

@@ -18,28 +18,22 @@ const Reading kNumbers[] = {
     // 1 and 2: the noun first, then the number in the noun's gender.
     {"1usd", "duulaar waahid"},
     {"2usd", "duulaaraan ^ithnaan"},
-    {"1h", "saaca waahida"},
     // 3-10: the opposite gender's form, then the plural; eight has its own
     // feminine nominative word.
     {"3usd", "thalaathat duulaaraat"},
     {"8h", "thamaanii saacaat"},
-    {"8num", "thamaaniyat ^arqaam"},
     {"10num", "cashrat ^arqaam"},
     {"5eye", "khams wahdaat"},
     // 11-19: form A whatever the gender, then the singular; 15 is two prompts.
     {"11num", "^ahadacashara raqm"},
-    {"12num", "cithnaacashara raqm"},
     {"15num", "khamsatacashara khamsacashrata raqm"},
     // 20-99: units, " wa", the tens with "uun", the singular.
-    {"20num", "^ishruun raqm"},
     {"21usd", "waahid wa ^ishruun duulaar"},
     {"99num", "tisca wa tis^uun raqm"},
     // Hundreds: a round hundred glues "t" on, except 200; the rest after " wa".
     {"100num", "mi^at raqm"},
     {"200num", "mi^ataan raqm"},
-    {"300num", "thalaathumi^at raqm"},
     {"101num", "mi^a wa raqm waahid"},
-    {"999usd", "tiscumi^a wa tisca wa tis^uun duulaar"},
     {"1234num", "^alf wa mi^ataan wa ^arbaca wa thalaathuun raqm"},
     // Scale groups: one or two is the noun alone, more the masculine group with
     // its noun; after a scale group the unit's noun follows alone.
@@ -47,7 +41,6 @@ const Reading kNumbers[] = {
     {"3000num", "thalaathat aalaaf raqm"},
     {"11000num", "^ahadacashara ^alf raqm"},
     {"1001num", "^alf wa raqm waahid"},
-    {"2500usd", "^alfaan wa khamsumi^at duulaar"},
     {"2000000num", "milyuunaan raqm"},
     {"5000000num", "khamsat malaaiin raqm"},
     {"1000001num", "milyuun wa raqm waahid"},
@@ -55,12 +48,10 @@ const Reading kNumbers[] = {
     // Ten digits and more reach speakCount with an empty digit list; only the
     // last twelve digits are spoken.
     {"3000000000num", "thalaathat milyaaraat raqm"},
-    {"12000000000usd", "cithnaacashara milyaar duulaar"},
     {"1000000000005num", "khamsat ^arqaam"},
     {"5000000000000num", "laa_yuujadu raqm"},
     // Zero, unit words in capitals, unknown words, fractions, the minus word.
     {"0mes", "laa_yuujadu khabar"},
-    {"5USD", "khamsat duulaaraat"},
     {"1.5h", "1.5h"},
     {"-5usd", "naqs khamsat duulaaraat"},
 };
@@ -71,14 +62,12 @@ TEST(ArabGrammar, NumbersAndCountedNouns) { expectReadings("ar", kNumbers); }
 // and kept whole when longer; a zero part is left out.
 const Reading kMoney[] = {
     {"1.05usd", "duulaar waahid wa khamsat siintaat"},
-    {"12.50usd", "cithnaacashara duulaar wa khamsuun siint"},
     {"1.2usd", "duulaar waahid wa ^ishruun siint"},
     {"2.02d", "duulaaraan ^ithnaan wa siintaan ^ithnaan"},
     {",5usd", "khamsuun siint"},
     {"0.00usd", "laa_yuujadu duulaar"},
     {"1.5dinar", "diinaar waahid wa khamsumi^at fils"},
     {"2.005dzd", "diinaaraan ^ithnaan wa khamsat filsaat"},
-    {"0.002DINAR", "filsaan ^ithnaan"},
     {"3.1234usd", "thalaathat duulaaraat wa ^alf wa mi^ataan wa ^arbaca wa thalaathuun siint"},
 };
 
@@ -88,10 +77,8 @@ TEST(ArabGrammar, Money) { expectReadings("ar", kMoney); }
 // oblique case; month 00 says " tiscumi^a".
 const Reading kDates[] = {
     {"5.01.2005", "lkhaamis min yanaayir ^aam ^alfayn wa khams"},
-    {"2.02.2002", "ththaanii min fibraayir ^aam ^alfayn wa ^ithnatayn"},
     {"21.03.1999", "l^awwal wa ^ishriin min maars ^aam ^alf wa tiscumi^a wa tisc wa tis^iin"},
     {"12.05", "ththaaniyacashar min maayuu ^aam"},
-    {"10.08.2011", "lcaashir min ^ughustus ^aam ^alfayn wa ^ahadacashara"},
     {"30.11.1900", "thalaathiin min nufambar ^aam ^alf wa tiscumi^at"},
     {"31.12.1999(I)", "l^awwal wa thalaathiin min diisambar ^aam ^alf wa tiscumi^a wa tisc wa tis^iin"},
     {"5.00.2015", "lkhaamis min tiscumi^a ^aam ^alfayn wa khamsatacashara khamsacashrata"},
@@ -102,7 +89,6 @@ TEST(ArabGrammar, Dates) { expectReadings("ar", kDates); }
 // Clock times: the minutes rows, the hour moved on only above 40, each period
 // of the day, 24 as midnight; h:mm:ss says nothing.
 const Reading kClockTimes[] = {
-    {"7:00", "^assaaca ssaabica sabaahan"},
     {"7:01", "^assaaca ssaabica wa daqiiqa waahida sabaahan"},
     {"7:02", "^assaaca ssaabica wa daqiiqataan ^ithnataan sabaahan"},
     {"7:05", "^assaaca ssaabica wa khams daqaa^iq sabaahan"},
@@ -113,23 +99,18 @@ const Reading kClockTimes[] = {
     {"7:25", "^assaaca ssaabica wa nnisf ^illaa khams daqaa^iq sabaahan"},
     {"7:29", "^assaaca ssaabica wa nnisf ^illaa daqiiqa waahida sabaahan"},
     {"7:30", "^assaaca ssaabica wa nnisf sabaahan"},
-    {"7:39", "^assaaca ssaabica wa nnisf wa tisc daqaa^iq sabaahan"},
     {"7:40", "^assaaca ssaabica ^illaa thulth sabaahan"},
     {"7:41", "^assaaca ththaamina ^illaa tiscatacashara daqiiqa sabaahan"},
     {"7:45", "^assaaca ththaamina ^illaa rubc sabaahan"},
     {"7:58", "^assaaca ththaamina ^illaa daqiiqataan ^ithnataan sabaahan"},
-    {"7:59", "^assaaca ththaamina ^illaa daqiiqa waahida sabaahan"},
     {"00:00", "^assaaca ththaaniyacashrata fi_muntasafi_llayl"},
     {"1:00", "^assaaca lwaahida bacd_muntasafi_llayl"},
     {"4:10", "^assaaca rraabica wa cashr daqaa^iq bacd_muntasafi_llayl"},
-    {"11:00", "^assaaca lhadiyacashrata sabaahan"},
     {"11:41", "^assaaca ththaaniyacashrata ^illaa tiscatacashara daqiiqa zuhran"},
     {"13:00", "^assaaca lwaahida bacd_zzuhr"},
     {"14:45", "^assaaca ththaalitha ^illaa rubc bacd_zzuhr"},
-    {"17:00", "^assaaca lkhaamisa masaa^an"},
     {"23:50", "^assaaca ththaaniyacashrata ^illaa cashr daqaa^iq fi_muntasafi_llayl"},
     {"24:00", "^assaaca ththaaniyacashrata fi_muntasafi_llayl"},
-    {"24:30", "^assaaca ththaaniyacashrata wa nnisf fi_muntasafi_llayl"},
     {"7:05:09", "7:05:09"},
 };
 
@@ -139,11 +120,9 @@ TEST(ArabGrammar, ClockTimes) { expectReadings("ar", kClockTimes); }
 // zero part is left out, nothing at all is " muntasafi_llayl".
 const Reading kDurations[] = {
     {"\"0:00\"", "muntasafi_llayl"},
-    {"\"2:00\"", "saacaataan ^ithnataan"},
     {"\"1:30\"", "saaca waahida thalaathuun daqiiqa"},
     {"\"125:30\"", "mi^a wa khams wa ^ishruun saaca thalaathuun daqiiqa"},
     {"\"0:00:05\"", "khams thawaanin"},
-    {"\"1:00:01\"", "saaca waahida thaaniya waahida"},
     {"\"0:02:03\"", "daqiiqataan ^ithnataan thalaath thawaanin"},
 };
 
@@ -164,10 +143,8 @@ TEST(ArabGrammar, DigitStringsAndCharacters) { expectReadings("ar", kDigitsAndCh
 // noun, the space after every digit-string word, characters without one.
 const Reading kRawBytes[] = {
     {"3usd", " thalaathat duulaaraat"},
-    {"3h", " thalaath  saacaat"},
     {"8h", " thamaanii  saacaat"},
     {"21usd", " waahid wa ^ishruun duulaar"},
-    {"100num", " mi^at raqm"},
     {"-1h", " naqs saaca waahida"},
     {"5.01.2005", " lkhaamis min yanaayir ^aam ^alfayn wa khams "},
     {"7:05", " ^assaaca ssaabica wa khams  daqaa^iq sabaahan"},
@@ -178,7 +155,8 @@ const Reading kRawBytes[] = {
 
 TEST(ArabGrammar, RawBytes) { expectRawReadings("ar", kRawBytes); }
 
-// Out-of-range parts print their diagnostic and keep what came before.
+// Out-of-range parts print their diagnostic, keep what came before and
+// refuse the date.
 TEST(ArabGrammar, Diagnostics) {
   using Call = void (*)(ArabGrammar&, std::string&);
   const struct {
@@ -186,8 +164,9 @@ TEST(ArabGrammar, Diagnostics) {
     const char* appended;
     const char* printed;
   } cases[] = {
-      {[](auto& g, auto& out) { g.speakDate("32", "5", "2005", "", "", out); }, "", " incorrect day 32 \r\n"},
-      {[](auto& g, auto& out) { g.speakDate("5", "13", "2005", "", "", out); }, " lkhaamis min",
+      {[](auto& g, auto& out) { EXPECT_EQ(g.speakDate("32", "5", "2005", "", "", out), 0); }, "",
+       " incorrect day 32 \r\n"},
+      {[](auto& g, auto& out) { EXPECT_EQ(g.speakDate("5", "13", "2005", "", "", out), 0); }, " lkhaamis min",
        " incorrect month 13 \r\n"},
       {[](auto& g, auto& out) { g.speakClockTime("25", "00", out); }, "", "wrong time (hours) 25\r\n"},
       {[](auto& g, auto& out) { g.speakClockTime("-1", "00", out); }, "", "wrong time (hours) -1\r\n"},

@@ -11,7 +11,6 @@ namespace {
 const Reading kUzbek[] = {
     // Numbers: "yuz" alone for 100, "bir ming" for 1000.
     {"007", "nol nol yetti"},
-    {"21", "yigirma bir"},
     {"115", "yuz on besh"},
     {"2008", "ikki ming sakkiz"},
     {"9-11", "toqqiz on bir"},
@@ -29,10 +28,8 @@ const Reading kUzbek[] = {
     // Counts and the zero phrase with "yoq".
     {"3mes", "uch xabar"},
     {"0ab", "abonent yoq"},
-    {"0h", "nol soat"},
     // Money: som and tiyin, dollar and sent, rubl and kopeyka.
     {"1500.50uzs", "bir ming besh yuz som ellik tiyin"},
-    {"0.5usd", "ellik sent"},
     {"2.01rub", "ikki rubl bir kopeyka"},
     // Digit strings and symbols.
     {"\"0#1\"", "nol bir"},
