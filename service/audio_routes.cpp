@@ -310,7 +310,7 @@ Response handleRecording(Service& service, const Target& target, const Request& 
   const auto voice = service.voiceFor(tag.bytes, latin);
   if (voice == nullptr) return noVoice(latin ? tag.bytes + "-t" : tag.bytes);
   // Only a prompt the language can answer with is ever looked up.
-  if (service.prompts(tag.bytes, latin)->count(*name) == 0)
+  if (service.promptNames(tag.bytes, latin)->count(*name) == 0)
     return errorResponse(404, "\"" + toUtf8(*name) + "\" is not a prompt of " + *lang);
   return renderAnswer(service, *voice, {*name}, options, request);
 }

@@ -24,18 +24,23 @@ bool says(const std::string& tag, bool latin, const std::string& text, const std
 
 }  // namespace
 
-PromptList makePromptList(const std::string& tag, bool latin) {
+std::set<std::string> promptNames(const std::string& tag, bool latin) {
+  const tools::QuietGrammars quiet;  // the inventory tries bad inputs on purpose
+  return tools::promptInventory(tag, latin ? 1 : 0);
+}
+
+PromptList makePromptList(const std::string& tag, bool latin, const std::set<std::string>& names) {
   const unsigned char mode = latin ? 1 : 0;
   PromptList list;
   std::map<std::string, std::size_t> bestAnswer;  // the length of the reading kept for each name
   {
-    const tools::QuietGrammars quiet;  // the enumeration tries bad inputs on purpose
-    for (const std::string& name : tools::promptInventory(tag, mode)) list[name];
-    std::vector<std::string> names;
+    const tools::QuietGrammars quiet;
+    for (const std::string& name : names) list[name];
+    std::vector<std::string> said;
     tools::forEachReading(tag, mode, [&](const std::string& text, const std::string& answer) {
-      names.clear();
-      tools::splitNames(answer, names);
-      for (const std::string& name : names) {
+      said.clear();
+      tools::splitNames(answer, said);
+      for (const std::string& name : said) {
         const auto entry = list.find(name);
         if (entry == list.end()) continue;
         const auto best = bestAnswer.find(name);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 
 namespace vela::service {
@@ -12,9 +13,13 @@ namespace vela::service {
 // it, the shortest reading found; "" when the enumeration gave none.
 using PromptList = std::map<std::string, std::string>;
 
-// Works out the list of (tag, latin): the prompt inventory, and examples from
-// the inventory's own enumeration, each checked through vela_read. Takes a
-// second or so; the service keeps the answer.
-PromptList makePromptList(const std::string& tag, bool latin);
+// Every prompt name (Windows-1251) the grammar of (tag, latin) can answer
+// with: the prompt inventory, a fraction of a second.
+std::set<std::string> promptNames(const std::string& tag, bool latin);
+
+// The examples of `names` from the inventory's own enumeration, each checked
+// through vela_read. Takes seconds (a minute under the sanitizers); the
+// service keeps the answer.
+PromptList makePromptList(const std::string& tag, bool latin, const std::set<std::string>& names);
 
 }  // namespace vela::service

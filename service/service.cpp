@@ -20,16 +20,29 @@ std::vector<std::string> Service::voiceTags() const {
   return tags;
 }
 
-std::shared_ptr<const PromptList> Service::prompts(const std::string& tag, bool latin) {
+std::shared_ptr<const std::set<std::string>> Service::promptNames(const std::string& tag, bool latin) {
   std::lock_guard lock(promptsMutex_);
+  auto& names = names_[{tag, latin}];
+  if (names == nullptr)
+    names = std::make_shared<const std::set<std::string>>(service::promptNames(tag, latin));
+  return names;
+}
+
+std::shared_ptr<const PromptList> Service::prompts(const std::string& tag, bool latin) {
+  const auto names = promptNames(tag, latin);
+  std::lock_guard lock(examplesMutex_);
   auto& list = prompts_[{tag, latin}];
-  if (list == nullptr) list = std::make_shared<const PromptList>(makePromptList(tag, latin));
+  if (list == nullptr) list = std::make_shared<const PromptList>(makePromptList(tag, latin, *names));
   return list;
 }
 
 void Service::reload() {
   cache_.clear();
-  std::lock_guard lock(promptsMutex_);
+  {
+    std::lock_guard lock(promptsMutex_);
+    names_.clear();
+  }
+  std::lock_guard lock(examplesMutex_);
   prompts_.clear();
 }
 

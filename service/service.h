@@ -63,8 +63,10 @@ class Service {
   // The tags that have a voice ("ru", "ru-t", ...).
   std::vector<std::string> voiceTags() const;
 
-  // Every prompt the language can answer with, and an example text of each;
-  // worked out on the first request for the language and kept.
+  // Every prompt name the language can answer with, and the same with an
+  // example text of each (slower); each worked out on its first request for
+  // the language and kept.
+  std::shared_ptr<const std::set<std::string>> promptNames(const std::string& tag, bool latin);
   std::shared_ptr<const PromptList> prompts(const std::string& tag, bool latin);
 
   // Forgets cached audio and prompt lists (SIGHUP): recordings are looked up
@@ -82,6 +84,8 @@ class Service {
   FingerprintMemo fingerprints_{4096};
   std::map<std::string, std::shared_ptr<const audio::Voice>> voices_;
   std::mutex promptsMutex_;
+  std::map<std::pair<std::string, bool>, std::shared_ptr<const std::set<std::string>>> names_;
+  std::mutex examplesMutex_;  // held for seconds: not the one the recordings route waits on
   std::map<std::pair<std::string, bool>, std::shared_ptr<const PromptList>> prompts_;
   std::atomic<std::int64_t> open_{0};
 };
