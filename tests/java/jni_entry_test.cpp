@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "grammar/cp1251.h"
 #include "support/fake_jvm.h"
 
 extern "C" JNIEXPORT jbyteArray JNICALL
@@ -19,7 +20,7 @@ constexpr JavaEntry kEntry =
     Java_com_talvik_ostra_macrosynthesis_vela_VelaMacroSynthesis_getSpaceDelimitedFilesWindows1251Encoded;
 
 // Arguments on both sides of their bounds are fetched, read no further than
-// their ends and released with mode 0.
+// their ends and released with mode 0; the answer is the driver's.
 TEST(JniEntry, ArgumentsAtTheirBounds) {
   const std::string text10239 = std::string(10239 - 5, 'b') + "a.wav";
   const std::pair<std::string, std::string> kCases[] = {
@@ -28,7 +29,10 @@ TEST(JniEntry, ArgumentsAtTheirBounds) {
   for (const auto& [text, language] : kCases) {
     EXPECT_NE(jvm.call(kEntry, &text, &language), nullptr) << text.size() << " " << language.size();
   }
-  EXPECT_EQ(jvm.handedOut, 8);
+  const std::string rub = "21rub", ru = "ru";  // the flag chooses the Russian mode
+  EXPECT_EQ(*jvm.call(kEntry, &rub, &ru, false), "двадцать один рубль"_cp);
+  EXPECT_EQ(*jvm.call(kEntry, &rub, &ru, true), "dvadcat odin rubl");
+  EXPECT_EQ(jvm.handedOut, 12);
   EXPECT_EQ(jvm.held, 0);
   EXPECT_FALSE(jvm.broken);
 }
