@@ -54,10 +54,10 @@ def test_agi_conversation(args, language, answers, commands):
 
 def load_script():
     import importlib.util
-    spec = importlib.util.spec_from_file_location("vela_agi", SCRIPT)
-    module = importlib.util.module_from_spec(spec)
+    found = importlib.util.spec_from_file_location("vela_agi", SCRIPT)
+    module = importlib.util.module_from_spec(found)
     sys.path.insert(0, os.path.join(ROOT, "python"))
-    spec.loader.exec_module(module)
+    found.loader.exec_module(module)
     return module
 
 
