@@ -28,7 +28,9 @@ grep -q '^ExecStart=/usr/bin/vela serve' /lib/systemd/system/vela.service ||
 page=$(MANPAGER=cat MANWIDTH=100 man vela 2>&1)
 case "$page" in *"vela units [-l TAG]"*) ;; *) fail "man vela" "$(echo "$page" | head -5)" ;; esac
 
-said=$(cd / && python3 -c 'import vela; print(vela.speak("ru", "21руб"), vela.__version__)')
+# Debian's interpreter: a python3 earlier on PATH (pyenv, a venv) does not
+# look in /usr/lib/python3/dist-packages, where python3-vela puts the module.
+said=$(cd / && /usr/bin/python3 -c 'import vela; print(vela.speak("ru", "21руб"), vela.__version__)')
 [ "$said" = "['двадцать', 'один', 'рубль'] $(pkg-config --modversion vela)" ] || fail "python3 -c 'import vela'" "$said"
 
 # shellcheck disable=SC2046
@@ -37,7 +39,7 @@ said=$("$work/host")
 [ "$(echo "$said" | head -1)" = '21rub: status 0, names "dvadcat odin rubl"' ] || fail "the C host" "$said"
 
 # The JVM finds the library on its default java.library.path.
-javac -cp /usr/share/java/vela.jar -d "$work" "$examples/Host.java"
-said=$(java -cp "/usr/share/java/vela.jar:$work" Host)
+/usr/bin/javac -cp /usr/share/java/vela.jar -d "$work" "$examples/Host.java"
+said=$(/usr/bin/java -cp "/usr/share/java/vela.jar:$work" Host)
 [ "$(echo "$said" | head -1)" = "[двадцать, один, рубль]" ] || fail "the Java host" "$said"
 echo "deb test ok: $(cd "$dist" && ls ./*.deb | wc -l) packages installed and checked"
