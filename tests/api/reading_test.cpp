@@ -2,49 +2,17 @@
 // random corpus: the same names, and the complaints they print on standard
 // output kept in the reading instead, with nothing printed.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <string>
 
 #include "grammar/cp1251.h"
-#include "pipeline/text_decoder.h"
+#include "support/speak.h"
 #include "support/text_corpus.h"
 #include "vela/vela.h"
 
 namespace vela {
 namespace {
-
-// What the calls made while it lives write on standard output (file descriptor 1).
-class StdoutCapture {
- public:
-  StdoutCapture() : file_(std::tmpfile()), saved_(dup(STDOUT_FILENO)) {
-    std::fflush(stdout);
-    dup2(fileno(file_), STDOUT_FILENO);
-  }
-  ~StdoutCapture() {
-    restore();
-    std::fclose(file_);
-  }
-  std::string text() {
-    restore();
-    std::string bytes;
-    std::rewind(file_);
-    for (int c; (c = std::fgetc(file_)) != EOF;) bytes += static_cast<char>(c);
-    return bytes;
-  }
-
- private:
-  void restore() {
-    if (saved_ < 0) return;
-    std::fflush(stdout);
-    dup2(saved_, STDOUT_FILENO);
-    close(saved_);
-    saved_ = -1;
-  }
-  std::FILE* file_;
-  int saved_;
-};
 
 struct Read {
   int result;
@@ -91,9 +59,11 @@ const Case kCases[] = {
 
 TEST(ReadingTest, Table) {
   for (const Case& c : kCases) {
-    StdoutCapture out;
-    const Read got = read(c.tag, c.tag == nullptr ? nullptr : c.text.c_str(), c.options);
-    EXPECT_EQ(out.text(), "") << c.text;
+    Read got;
+    EXPECT_EQ(testing::capturedStdout(
+                  [&] { got = read(c.tag, c.tag == nullptr ? nullptr : c.text.c_str(), c.options); }),
+              "")
+        << c.text;
     EXPECT_EQ(got.result, c.result) << c.text;
     EXPECT_EQ(got.names, c.names) << c.text;
     EXPECT_EQ(got.diagnostics, c.diagnostics) << c.text;
@@ -103,19 +73,6 @@ TEST(ReadingTest, Table) {
   }
   EXPECT_EQ(vela_read("ru", "5", 0, nullptr), -1);
   vela_reading_free(nullptr);
-}
-
-// The non-empty pieces of `answer` between spaces, joined by single spaces.
-std::string singleSpaced(const std::string& answer) {
-  std::string joined;
-  std::size_t start = 0;
-  while (start <= answer.size()) {
-    std::size_t end = answer.find(' ', start);
-    if (end == std::string::npos) end = answer.size();
-    if (end > start) joined.append(joined.empty() ? "" : " ").append(answer, start, end - start);
-    start = end + 1;
-  }
-  return joined;
 }
 
 // Lines of printed complaints, each without its blanks at either end and ended by '\n'.
@@ -145,23 +102,21 @@ TEST(ReadingTest, AgreesWithTheStatedExportsOnACorpus) {
     for (const char* tag : kTags) {
       for (unsigned char mode : {0, 1}) {
         if (mode == 1 && tag != std::string("ru")) continue;
-        StdoutCapture stated;
-        char* out = nullptr;
-        ASSERT_EQ(decodeText(tag, text.c_str(), &out, mode), 0);
-        const std::string answer = out;
-        std::free(out);
-        const std::string printed = complaintLines(stated.text());
-        StdoutCapture quiet;
-        const Read got = read(tag, text.c_str(), mode != 0 ? VELA_LATIN : 0);
+        std::string answer;
+        const std::string printed =
+            complaintLines(testing::capturedStdout([&] { answer = testing::decodeRaw(tag, text, mode); }));
+        Read got;
         const std::string where = std::string(tag) + " [" + text + "]";
-        ASSERT_EQ(quiet.text(), "") << where;
+        ASSERT_EQ(testing::capturedStdout([&] { got = read(tag, text.c_str(), mode != 0 ? VELA_LATIN : 0); }),
+                  "")
+            << where;
         ASSERT_EQ(got.diagnostics, printed) << where;
         if (!printed.empty()) ASSERT_NE(got.status, VELA_SPOKEN) << where;
         if (got.status == VELA_NOT_SPOKEN) {
           ASSERT_EQ(got.names, "") << where;
           ++notSpoken;
         } else {
-          ASSERT_EQ(got.names, singleSpaced(answer)) << where;
+          ASSERT_EQ(got.names, testing::joinNames(answer)) << where;
           ASSERT_FALSE(got.names.empty()) << where;
           (got.status == VELA_SPOKEN ? spoken : partly) += 1;
         }

@@ -29,7 +29,6 @@ const Reading kNumbers[] = {
     {"15num", "khamsatacashara khamsacashrata raqm"},
     // 20-99: units, " wa", the tens with "uun", the singular.
     {"21usd", "waahid wa ^ishruun duulaar"},
-    {"99num", "tisca wa tis^uun raqm"},
     // Hundreds: a round hundred glues "t" on, except 200; the rest after " wa".
     {"100num", "mi^at raqm"},
     {"200num", "mi^ataan raqm"},
@@ -42,7 +41,6 @@ const Reading kNumbers[] = {
     {"11000num", "^ahadacashara ^alf raqm"},
     {"1001num", "^alf wa raqm waahid"},
     {"2000000num", "milyuunaan raqm"},
-    {"5000000num", "khamsat malaaiin raqm"},
     {"1000001num", "milyuun wa raqm waahid"},
     {"1002003004num", "milyaar wa milyuunaan wa thalaathat aalaaf wa ^arbacat ^arqaam"},
     // Ten digits and more reach speakCount with an empty digit list; only the
@@ -79,7 +77,6 @@ const Reading kDates[] = {
     {"5.01.2005", "lkhaamis min yanaayir ^aam ^alfayn wa khams"},
     {"21.03.1999", "l^awwal wa ^ishriin min maars ^aam ^alf wa tiscumi^a wa tisc wa tis^iin"},
     {"12.05", "ththaaniyacashar min maayuu ^aam"},
-    {"30.11.1900", "thalaathiin min nufambar ^aam ^alf wa tiscumi^at"},
     {"31.12.1999(I)", "l^awwal wa thalaathiin min diisambar ^aam ^alf wa tiscumi^a wa tisc wa tis^iin"},
     {"5.00.2015", "lkhaamis min tiscumi^a ^aam ^alfayn wa khamsatacashara khamsacashrata"},
 };
@@ -90,9 +87,7 @@ TEST(ArabGrammar, Dates) { expectReadings("ar", kDates); }
 // of the day, 24 as midnight; h:mm:ss says nothing.
 const Reading kClockTimes[] = {
     {"7:01", "^assaaca ssaabica wa daqiiqa waahida sabaahan"},
-    {"7:02", "^assaaca ssaabica wa daqiiqataan ^ithnataan sabaahan"},
     {"7:05", "^assaaca ssaabica wa khams daqaa^iq sabaahan"},
-    {"7:14", "^assaaca ssaabica wa ^arbacatacashara daqiiqa sabaahan"},
     {"7:15", "^assaaca ssaabica wa rrubc sabaahan"},
     {"7:20", "^assaaca ssaabica wa ththulth sabaahan"},
     {"7:21", "^assaaca ssaabica wa waahida wa ^ishruun daqiiqa sabaahan"},
@@ -106,9 +101,7 @@ const Reading kClockTimes[] = {
     {"00:00", "^assaaca ththaaniyacashrata fi_muntasafi_llayl"},
     {"1:00", "^assaaca lwaahida bacd_muntasafi_llayl"},
     {"4:10", "^assaaca rraabica wa cashr daqaa^iq bacd_muntasafi_llayl"},
-    {"11:41", "^assaaca ththaaniyacashrata ^illaa tiscatacashara daqiiqa zuhran"},
     {"13:00", "^assaaca lwaahida bacd_zzuhr"},
-    {"14:45", "^assaaca ththaalitha ^illaa rubc bacd_zzuhr"},
     {"23:50", "^assaaca ththaaniyacashrata ^illaa cashr daqaa^iq fi_muntasafi_llayl"},
     {"24:00", "^assaaca ththaaniyacashrata fi_muntasafi_llayl"},
     {"7:05:09", "7:05:09"},
@@ -128,29 +121,20 @@ const Reading kDurations[] = {
 
 TEST(ArabGrammar, Durations) { expectReadings("ar", kDurations); }
 
-// Digit strings and single characters; a character without a word gives the
-// caller's text back.
-const Reading kDigitsAndCharacters[] = {
-    {"3456789", "thalaatha ^arbaca khamsa sitta sabca thamaaniya tisca"},
-    {"1,5", "waahid khamsa"},
-    {"#", "shabaka"},
-    {"a", "a"},
-};
-
-TEST(ArabGrammar, DigitStringsAndCharacters) { expectReadings("ar", kDigitsAndCharacters); }
-
 // The exact bytes: glued endings, the space glued after 3-10 before a feminine
-// noun, the space after every digit-string word, characters without one.
+// noun, the space after every digit-string word; a character without a word
+// gives the caller's text back.
 const Reading kRawBytes[] = {
     {"3usd", " thalaathat duulaaraat"},
     {"8h", " thamaanii  saacaat"},
     {"21usd", " waahid wa ^ishruun duulaar"},
-    {"-1h", " naqs saaca waahida"},
     {"5.01.2005", " lkhaamis min yanaayir ^aam ^alfayn wa khams "},
-    {"7:05", " ^assaaca ssaabica wa khams  daqaa^iq sabaahan"},
     {"2005", " ^ithnaan  sifr  sifr  khamsa "},
     {"1-2", " waahid   ^ithnaan "},
     {"\"12#*\"", "  waahid  ^ithnaan    "},
+    {"1,5", " waahid   khamsa "},
+    {"#", " shabaka"},
+    {"a", "a"},
 };
 
 TEST(ArabGrammar, RawBytes) { expectRawReadings("ar", kRawBytes); }

@@ -36,12 +36,9 @@ TEST(RussianNumberCore, Speak3) {
   } cases[] = {
       {&kRussian, "1", kMasculine, 0, 1, "pershij"},
       {&kRussian, "3", kFeminine, 1, 1, "(ni)"},
-      {&kRussian, "100", kNeuter, 0, 1, "сто"_cp},
       {&kRussian, "15", 7, 0, 0, "пятнадцать"_cp},
       {&kRussian, "5", 3, 0, 0, ""},
-      {&kRussian, "5", -1, 0, 0, ""},
       {&kUkrainian, "12", kNeuter, 0, 1, "dvanadtsjat"},
-      {&kUkrainian, "20", kNeuter, 0, 1, "dvadtsjat"},
   };
   for (const auto& c : cases) {
     std::string out;
