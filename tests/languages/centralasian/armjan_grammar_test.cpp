@@ -57,16 +57,6 @@ TEST(ArmjanGrammar, Readings) {
 }
 
 // The month is checked before the day.
-TEST(ArmjanGrammar, RefusedDates) {
-  ArmjanGrammar g;
-  std::string out;
-  EXPECT_EQ(capturedStdout([&] { EXPECT_EQ(g.speakDate("32", "13", "2008", "20", "08", out), 0); }),
-            " incorrect month 13 \r\n");
-  EXPECT_EQ(capturedStdout([&] { EXPECT_EQ(g.speakDate("32", "1", "2008", "20", "08", out), 0); }),
-            " incorrect day 32 \r\n");
-  EXPECT_EQ(out, "");
-}
-
 // The case suffix goes on the last word of a group only when asked for.
 TEST(ArmjanGrammar, CaseSuffix) {
   const struct {

@@ -53,16 +53,6 @@ TEST(GeorgGrammar, Readings) {
   expectComplaints("ka", refused);
 }
 
-TEST(GeorgGrammar, RefusedDates) {
-  GeorgGrammar g;
-  std::string out;
-  EXPECT_EQ(capturedStdout([&] { EXPECT_EQ(g.speakDate("32", "1", "2008", "20", "08", out), 0); }),
-            " incorrect day 32 \r\n");
-  EXPECT_EQ(capturedStdout([&] { EXPECT_EQ(g.speakDate("1", "13", "2008", "20", "08", out), 0); }),
-            " incorrect month 13 \r\n");
-  EXPECT_EQ(out, "");
-}
-
 // The compound form where more of the number follows, the final form at its end.
 TEST(GeorgGrammar, FinalFormSpeller) {
   const struct {

@@ -68,18 +68,6 @@ TEST(TadjikGrammar, ExactBytes) {
   expectRawReadings("tg", cases);
 }
 
-TEST(TadjikGrammar, RefusedDates) {
-  TadjikGrammar g;
-  std::string out;
-  int result = -1;
-  EXPECT_EQ(capturedStdout([&] { result = g.speakDate("32", "1", "2008", "20", "08", out); }),
-            " incorrect day 32 \r\n");
-  EXPECT_EQ(capturedStdout([&] { result = g.speakDate("1", "13", "2008", "20", "08", out); }),
-            " incorrect month 13 \r\n");
-  EXPECT_EQ(result, 0);
-  EXPECT_EQ(out, "");
-}
-
 // The ordinal: the cardinal, the glide after a vowel, "um".
 TEST(TadjikGrammar, OrdinalSpeller) {
   const Reading cases[] = {{"2", "duyum"}, {"5", "panjum"}, {"20", "bistum"}, {"1000", "yak hazorum"}};
