@@ -89,35 +89,9 @@ TEST_F(RenderTest, SameRateRecordingsAreCopiedSampleForSampleWithPauses) {
   ASSERT_TRUE(render({"a", "b", "a"}, options).ok());
   const auto back = readBack(dir_ / "out.bin");
   ASSERT_EQ(back.info.frames, 800 + 800 + 1200 + 800 + 800);
-  struct Piece {
-    long start, frames;
-  };
-  for (const Piece& p : {Piece{0, 800}, Piece{1600, 1200}, Piece{3600, 800}}) {
-    for (long i = 0; i < p.frames; i += 37)
-      ASSERT_EQ(back.samples[p.start + i], vela::testing::toneSample(i, 0));
-  }
+  for (const auto& [start, frames] : {std::pair{0L, 800L}, std::pair{1600L, 1200L}, std::pair{3600L, 800L}})
+    for (long i = 0; i < frames; i += 37) ASSERT_EQ(back.samples[start + i], vela::testing::toneSample(i, 0));
   for (long i = 800; i < 1600; i += 11) ASSERT_EQ(back.samples[i], 0);
-}
-
-TEST_F(RenderTest, TrimCutsQuietEndsOnlyWhenAsked) {
-  // 0.2 s of silence, 0.1 s of tone, 0.3 s of silence at 8 kHz.
-  std::vector<short> samples(4800, 0);
-  for (int i = 1600; i < 2400; ++i) samples[i] = vela::testing::toneSample(i, 0);
-  vela::testing::writeSamples(dir_ / "a.wav", 8000, 1, samples);
-  writeSound(dir_ / "quiet.wav", 8000, 1, 400, SF_FORMAT_WAV | SF_FORMAT_PCM_16, true);
-
-  struct Row {
-    std::optional<double> trimDb;
-    const char* name;
-    long frames;
-  };
-  const Row rows[] = {{std::nullopt, "a", 4800}, {-45.0, "a", 800}, {-45.0, "quiet", 400}};
-  for (const Row& row : rows) {
-    vela::audio::RenderOptions options;
-    options.trimDb = row.trimDb;
-    ASSERT_TRUE(render({row.name}, options).ok());
-    EXPECT_NEAR(static_cast<double>(readBack(dir_ / "out.bin").info.frames), row.frames, 2) << row.name;
-  }
 }
 
 TEST_F(RenderTest, EveryBadRecordingIsNamedAndNothingIsRendered) {
@@ -150,13 +124,14 @@ TEST_F(RenderTest, FingerprintFollowsTheRecordingsAndTheOptions) {
   EXPECT_FALSE(vela::audio::fingerprintPrompts(voice(), {"a", "gone"}, options));
 }
 
-TEST_F(RenderTest, MeasuresOfARecording) {
-  // 0.25 s silence, 0.5 s tone with four samples at full scale, 0.5 s silence.
+// 0.25 s of silence, 0.5 s of tone with four samples at full scale, 0.5 s of silence.
+TEST_F(RenderTest, QuietEndsAreMeasuredAndTrimmedOnlyWhenAsked) {
   std::vector<short> samples(20000, 0);
   for (int i = 4000; i < 12000; ++i) samples[i] = vela::testing::toneSample(i, 0);
   for (int i : {5000, 6000, 7000}) samples[i] = 32767;
   samples[8000] = -32768;
   vela::testing::writeSamples(dir_ / "a.wav", 16000, 1, samples);
+  writeSound(dir_ / "quiet.wav", 16000, 1, 400, SF_FORMAT_WAV | SF_FORMAT_PCM_16, true);
   const auto sound = vela::audio::readRecording((dir_ / "a.wav").string());
   ASSERT_TRUE(sound);
   const vela::audio::Measures m = vela::audio::measureRecording(*sound, -45);
@@ -165,6 +140,18 @@ TEST_F(RenderTest, MeasuresOfARecording) {
   EXPECT_EQ(m.clippedSamples, 4);
   // A sine of amplitude 8000/32768 is about -15 LUFS over its 400 ms windows.
   EXPECT_NEAR(m.loudness, -15.3, 1.5);
+
+  struct Row {
+    std::optional<double> trimDb;
+    const char* name;
+    long frames;
+  };
+  for (const Row& row : {Row{std::nullopt, "a", 20000}, Row{-45.0, "a", 8000}, Row{-45.0, "quiet", 400}}) {
+    vela::audio::RenderOptions options;
+    options.trimDb = row.trimDb;
+    ASSERT_TRUE(render({row.name}, options).ok());
+    EXPECT_NEAR(static_cast<double>(readBack(dir_ / "out.bin").info.frames), row.frames, 2) << row.name;
+  }
 }
 
 }  // namespace
