@@ -56,21 +56,14 @@ TEST_F(RecordingTest, BadFilesGetTheirOwnErrorQuickly) {
 }
 
 TEST_F(RecordingTest, HeaderlessFilesAreReadByTheirExtension) {
-  struct Row {
-    const char* file;
-    std::string bytes;
-    int rate;
-    long frames;
-  };
-  const Row rows[] = {{"a.sln", std::string(800, '\1'), 8000, 400},
-                      {"a.sln16", std::string(800, '\1'), 16000, 400},
-                      {"a.alaw", std::string(800, '\x55'), 8000, 800}};
-  for (const Row& row : rows) {
-    writeBytes(dir_ / row.file, row.bytes);
-    const auto sound = vela::audio::readRecording((dir_ / row.file).string());
+  // 800 bytes: 400 frames of 16-bit samples, or 800 of 8-bit mu-law or A-law.
+  for (const auto& [file, rate, frames] :
+       {std::tuple{"a.sln", 8000, 400}, std::tuple{"a.sln16", 16000, 400}, std::tuple{"a.alaw", 8000, 800}}) {
+    writeBytes(dir_ / file, std::string(800, '\x55'));
+    const auto sound = vela::audio::readRecording((dir_ / file).string());
     ASSERT_TRUE(sound) << sound.error().message;
-    EXPECT_EQ(sound->info.rate, row.rate) << row.file;
-    EXPECT_EQ(sound->info.frames, row.frames) << row.file;
+    EXPECT_EQ(sound->info.rate, rate) << file;
+    EXPECT_EQ(sound->info.frames, frames) << file;
     EXPECT_EQ(sound->info.channels, 1);
   }
 }
