@@ -33,21 +33,23 @@ inline short toneSample(long i, int c) {
   return static_cast<short>(8000 * std::sin(0.05 * static_cast<double>(i)) + 100 * c + 1);
 }
 
-// Writes `frames` frames of the tone (or of silence) with libsndfile.
-inline void writeSound(const std::filesystem::path& path, int rate, int channels, long frames, int format,
-                       bool silent = false) {
-  SF_INFO info{};
-  info.samplerate = rate;
-  info.channels = channels;
-  info.format = format;
+// Writes 16-bit samples (interleaved) with libsndfile.
+inline void writeSamples(const std::filesystem::path& path, int rate, int channels,
+                         const std::vector<short>& samples, int format = SF_FORMAT_WAV | SF_FORMAT_PCM_16) {
+  SF_INFO info{0, rate, channels, format, 0, 0};
   SNDFILE* f = sf_open(path.c_str(), SFM_WRITE, &info);
   ASSERT_NE(f, nullptr) << path << ": " << sf_strerror(nullptr);
-  std::vector<short> samples;
-  for (long i = 0; i < frames; ++i) {
-    for (int c = 0; c < channels; ++c) samples.push_back(silent ? 0 : toneSample(i, c));
-  }
-  sf_writef_short(f, samples.data(), frames);
+  sf_writef_short(f, samples.data(), static_cast<sf_count_t>(samples.size()) / channels);
   sf_close(f);
+}
+
+// `frames` frames of the tone, or of silence.
+inline void writeSound(const std::filesystem::path& path, int rate, int channels, long frames, int format,
+                       bool silent = false) {
+  std::vector<short> samples;
+  for (long i = 0; i < frames; ++i)
+    for (int c = 0; c < channels; ++c) samples.push_back(silent ? 0 : toneSample(i, c));
+  writeSamples(path, rate, channels, samples, format);
 }
 
 inline void writeTone(const std::filesystem::path& path, int rate, int channels, long frames) {

@@ -19,35 +19,23 @@ TEST(PlatformsTest, ExportTargetsAreWherePlatformsLook) {
     bool headerless;
     std::vector<std::string> paths;  // folder + "/NAME" + extension, "" when refused
   };
+  // clang-format off
   const Row rows[] = {
       {Layout::asterisk, {}, Encoding::pcm16, false, {"D/sounds/ru/vela/NAME.wav"}},
       {Layout::asterisk, {16000}, Encoding::pcm16, false, {"D/sounds/ru/vela/NAME.wav16"}},
-      {Layout::asterisk,
-       {8000, 16000},
-       Encoding::pcm16,
-       true,
-       {"D/sounds/ru/vela/NAME.sln", "D/sounds/ru/vela/NAME.sln16"}},
+      {Layout::asterisk, {8000, 16000}, Encoding::pcm16, true, {"D/sounds/ru/vela/NAME.sln", "D/sounds/ru/vela/NAME.sln16"}},
       {Layout::asterisk, {}, Encoding::alaw, false, {"D/sounds/ru/vela/NAME.alaw"}},
-      {Layout::asterisk, {16000}, Encoding::ulaw, false, {""}},
+      {Layout::asterisk, {16000}, Encoding::ulaw, false, {""}},  // .ulaw and .alaw are 8 kHz only
       {Layout::asterisk, {44100}, Encoding::pcm16, false, {""}},
-      {Layout::freeswitch,
-       {},
-       Encoding::pcm16,
-       false,
-       {"D/ru/ru/v/vela/8000/NAME.wav", "D/ru/ru/v/vela/16000/NAME.wav"}},
+      {Layout::freeswitch, {}, Encoding::pcm16, false, {"D/ru/ru/v/vela/8000/NAME.wav", "D/ru/ru/v/vela/16000/NAME.wav"}},
       {Layout::freeswitch, {48000}, Encoding::ulaw, false, {"D/ru/ru/v/vela/48000/NAME.wav"}},
       {Layout::freeswitch, {}, Encoding::pcm16, true, {""}},
   };
+  // clang-format on
   for (const Row& row : rows) {
-    vela::audio::ExportRequest request;
-    request.layout = row.layout;
-    request.destination = "D";
-    request.language = "ru";
-    request.voiceName = "v";
-    request.rates = row.rates;
-    request.encoding = row.encoding;
-    request.headerless = row.headerless;
-    const auto targets = vela::audio::exportTargets(request);
+    // layout, destination, language, region, voice name, rates, encoding, headerless
+    const auto targets =
+        vela::audio::exportTargets({row.layout, "D", "ru", "", "v", row.rates, row.encoding, row.headerless});
     std::vector<std::string> paths;
     if (!targets) {
       paths.push_back("");

@@ -1,7 +1,6 @@
 // The one recording check: bad files of every kind get their own error, fast,
 // and an output file is written whole or not at all, even when killed.
 #include <signal.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <chrono>
@@ -16,22 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 using vela::audio::Fault;
 
-void put(std::string& out, unsigned value, int bytes) {
-  for (int i = 0; i < bytes; ++i) out += static_cast<char>((value >> (8 * i)) & 0xFF);
-}
-
-// A 16-bit mono WAV header that declares `rate` and `dataBytes`, and the data.
-std::string wavBytes(unsigned rate, unsigned dataBytes, unsigned presentBytes) {
-  std::string w = "RIFF";
-  put(w, 36 + dataBytes, 4);
-  w += "WAVEfmt ";
-  for (unsigned v : {16u, 1u | (1u << 16), rate, rate * 2, 2u | (16u << 16)}) put(w, v, 4);
-  w += "data";
-  put(w, dataBytes, 4);
-  for (unsigned i = 0; i < presentBytes; ++i) w += static_cast<char>(i * 7);
-  return w;
-}
-
 void writeBytes(const fs::path& path, const std::string& bytes) {
   std::ofstream(path, std::ios::binary) << bytes;
 }
@@ -45,20 +28,17 @@ TEST_F(RecordingTest, BadFilesGetTheirOwnErrorQuickly) {
     Fault fault;
     const char* says;
   };
+  // The kinds the tool's commands meet are tested with them; these are the rest.
   const Row rows[] = {
-      {"fifo.wav", [](const fs::path& p) { mkfifo(p.c_str(), 0600); }, Fault::notAFile, "a FIFO"},
-      {"folder.wav", [](const fs::path& p) { fs::create_directory(p); }, Fault::notAFile, "a directory"},
-      {"loop.wav", [](const fs::path& p) { fs::create_symlink(p.filename(), p); }, Fault::notAFile, "loop"},
       {"dangling.wav", [](const fs::path& p) { fs::create_symlink("nowhere.wav", p); }, Fault::missing,
        "no such file"},
-      {"empty.wav", [](const fs::path& p) { writeBytes(p, ""); }, Fault::empty, "empty"},
-      {"text.wav", [](const fs::path& p) { writeBytes(p, "hello, I am not a recording\n"); },
-       Fault::unreadable, "not audio"},
-      {"cut.wav", [](const fs::path& p) { writeBytes(p, wavBytes(8000, 2000, 56)); }, Fault::truncated,
-       "ends after 56 of the 2000 bytes"},
-      {"rate.wav", [](const fs::path& p) { writeBytes(p, wavBytes(2000000000, 200, 200)); },
-       Fault::outOfBounds, "2000000000 Hz"},
-      {"noframes.wav", [](const fs::path& p) { writeBytes(p, wavBytes(8000, 0, 0)); }, Fault::empty,
+      {"cut.wav",
+       [](const fs::path& p) {
+         vela::testing::writeTone(p, 8000, 1, 1000);
+         fs::resize_file(p, 100);
+       },
+       Fault::truncated, "ends after 56 of the 2000 bytes"},
+      {"noframes.wav", [](const fs::path& p) { vela::testing::writeTone(p, 8000, 1, 0); }, Fault::empty,
        "no sound"},
       {"odd.sln", [](const fs::path& p) { writeBytes(p, "abc"); }, Fault::truncated, "inside a sample"},
   };
@@ -76,24 +56,14 @@ TEST_F(RecordingTest, BadFilesGetTheirOwnErrorQuickly) {
 }
 
 TEST_F(RecordingTest, HeaderlessFilesAreReadByTheirExtension) {
-  struct Row {
-    const char* file;
-    std::string bytes;
-    int rate;
-    long frames;
-  };
-  const Row rows[] = {
-      {"a.sln", std::string(800, '\1'), 8000, 400},
-      {"a.sln16", std::string(800, '\1'), 16000, 400},
-      {"a.ulaw", std::string(800, '\x55'), 8000, 800},
-      {"a.alaw", std::string(800, '\x55'), 8000, 800},
-  };
-  for (const Row& row : rows) {
-    writeBytes(dir_ / row.file, row.bytes);
-    const auto sound = vela::audio::readRecording((dir_ / row.file).string());
+  // 800 bytes: 400 frames of 16-bit samples, or 800 of 8-bit mu-law or A-law.
+  for (const auto& [file, rate, frames] :
+       {std::tuple{"a.sln", 8000, 400}, std::tuple{"a.sln16", 16000, 400}, std::tuple{"a.alaw", 8000, 800}}) {
+    writeBytes(dir_ / file, std::string(800, '\x55'));
+    const auto sound = vela::audio::readRecording((dir_ / file).string());
     ASSERT_TRUE(sound) << sound.error().message;
-    EXPECT_EQ(sound->info.rate, row.rate) << row.file;
-    EXPECT_EQ(sound->info.frames, row.frames) << row.file;
+    EXPECT_EQ(sound->info.rate, rate) << file;
+    EXPECT_EQ(sound->info.frames, frames) << file;
     EXPECT_EQ(sound->info.channels, 1);
   }
 }

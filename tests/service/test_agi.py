@@ -1,6 +1,7 @@
 """The Asterisk AGI recipe against recorded AGI conversations: what Asterisk
 sends on the script's standard input, and exactly what the script must write
 on its standard output (AGI commands and nothing else)."""
+import importlib.util
 import os
 import subprocess
 import sys
@@ -13,26 +14,25 @@ ROOT = os.path.abspath(os.path.join(os.path.dirname(__file__), "..", ".."))
 SCRIPT = os.path.join(ROOT, "recipes", "asterisk", "vela-agi.py")
 ENV = "agi_request: vela-agi.py\nagi_channel: PJSIP/100-00000001\nagi_language: %s\n%s\n"
 OK = "200 result=0\n"
-KEYS = '"0123456789*#"'
+
+
+def play(*names):
+    return ['STREAM FILE vela/%s "0123456789*#"' % name for name in names]
+
 
 # text and tag as the dialplan passes them, the channel's language, Asterisk's
-# answers, and the commands the script must send.
+# answers, and the commands the script must send (None: any VERBOSE complaint).
+SPOKEN = "SET VARIABLE VELA_STATUS spoken"
 CONVERSATIONS = [
-    ("spoken", "agi_arg_1: 21руб\nagi_arg_2: ru\n", "en", [OK] * 4,
-     ["SET VARIABLE VELA_STATUS spoken",
-      "STREAM FILE vela/двадцать " + KEYS, "STREAM FILE vela/один " + KEYS, "STREAM FILE vela/рубль " + KEYS]),
-    ("tag from the channel", "agi_arg_1: 2\n", "en", [OK] * 2,
-     ["SET VARIABLE VELA_STATUS spoken", "STREAM FILE vela/two " + KEYS]),
+    ("spoken", "agi_arg_1: 21руб\nagi_arg_2: ru\n", "en", [OK] * 4, [SPOKEN] + play("двадцать", "один", "рубль")),
+    ("tag from the channel", "agi_arg_1: 2\n", "en", [OK] * 2, [SPOKEN] + play("two")),
     ("a key stops it", "agi_arg_1: 21руб\n", "ru", [OK, OK, "200 result=50 endpos=1200\n"],
-     ["SET VARIABLE VELA_STATUS spoken", "STREAM FILE vela/двадцать " + KEYS, "STREAM FILE vela/один " + KEYS]),
-    ("hung up", "agi_arg_1: 21руб\n", "ru", [OK, "HANGUP\n"],
-     ["SET VARIABLE VELA_STATUS spoken", "STREAM FILE vela/двадцать " + KEYS]),
+     [SPOKEN] + play("двадцать", "один")),
+    ("hung up", "agi_arg_1: 21руб\n", "ru", [OK, "HANGUP\n"], [SPOKEN] + play("двадцать")),
     ("complaint, nothing played", "agi_arg_1: 25:70\n", "ru", [OK] * 2,
      ['VERBOSE "vela: wrong time (hours) 25" 3', "SET VARIABLE VELA_STATUS not_spoken"]),
-    ("partly spoken plays nothing", "agi_arg_1: -5xyz\n", "ru", [OK],
-     ["SET VARIABLE VELA_STATUS partly_spoken"]),
-    ("text outside the code page", "agi_arg_1: 中\n", "ru", [OK] * 2,
-     [None, "SET VARIABLE VELA_STATUS error"]),
+    ("partly spoken plays nothing", "agi_arg_1: -5xyz\n", "ru", [OK], ["SET VARIABLE VELA_STATUS partly_spoken"]),
+    ("text outside the code page", "agi_arg_1: 中\n", "ru", [OK] * 2, [None, "SET VARIABLE VELA_STATUS error"]),
 ]
 
 
@@ -52,21 +52,14 @@ def test_agi_conversation(args, language, answers, commands):
             assert line == expected
 
 
-def load_script():
-    import importlib.util
-    found = importlib.util.spec_from_file_location("vela_agi", SCRIPT)
-    module = importlib.util.module_from_spec(found)
-    sys.path.insert(0, os.path.join(ROOT, "python"))
-    found.loader.exec_module(module)
-    return module
-
-
 @pytest.mark.parametrize("tag", ["ru", "en", "hy"])
 def test_file_names_agree_with_the_voice_folders(tag):
     """The script names files as `vela prompts --files` does, for every prompt."""
-    listed = subprocess.run([VELA, "prompts", "-l", tag, "--files"], capture_output=True, text=True,
-                            check=True).stdout
-    stem = load_script().file_stem
-    for line in listed.splitlines():
+    listed = subprocess.run([VELA, "prompts", "-l", tag, "--files"], capture_output=True, text=True, check=True)
+    found = importlib.util.spec_from_file_location("vela_agi", SCRIPT)
+    script = importlib.util.module_from_spec(found)
+    sys.path.insert(0, os.path.join(ROOT, "python"))
+    found.loader.exec_module(script)
+    for line in listed.stdout.splitlines():
         name, file = line.split("\t")
-        assert stem(name) + ".wav" == file
+        assert script.file_stem(name) + ".wav" == file

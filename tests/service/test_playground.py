@@ -1,10 +1,7 @@
 """The playground page in headless Chromium: type a text, see its names and
-status, hear it (the audio element gets a duration), and list the prompts
-with their recordings and example texts."""
+status, hear it, and list the prompts with their recordings and examples."""
 import shutil
 import tempfile
-
-import pytest
 
 from selenium import webdriver
 from selenium.webdriver.chrome.service import Service as DriverService
@@ -12,9 +9,7 @@ from selenium.webdriver.common.by import By
 from selenium.webdriver.support.ui import Select, WebDriverWait
 
 
-@pytest.fixture(scope="module")
-def browser():  # one Chromium for the module: it takes seconds to start
-    profile = tempfile.mkdtemp(prefix="vela-chromium-")
+def chromium(profile):
     options = webdriver.ChromeOptions()
     options.binary_location = "/usr/bin/chromium"
     # The network is closed: without these Chromium waits on services it cannot reach.
@@ -25,55 +20,40 @@ def browser():  # one Chromium for the module: it takes seconds to start
         options.add_argument(flag)
     driver = webdriver.Chrome(service=DriverService("/usr/bin/chromedriver"), options=options)
     driver.set_page_load_timeout(30)
-    yield driver
-    driver.quit()
-    shutil.rmtree(profile, ignore_errors=True)
+    return driver
 
 
-def shown_names(driver):
-    return [li.text for li in driver.find_elements(By.CSS_SELECTOR, "#names li")]
-
-
-def type_text(driver, text):
-    box = driver.find_element(By.ID, "text")
-    box.clear()
-    box.send_keys(text)
-
-
-def test_reads_and_plays_a_text(start_server, voice_root, browser):
+def test_reads_plays_and_lists_prompts(start_server, voice_root):
     server = start_server("--voice", "ru=%s" % (voice_root / "ru"))
-    browser.get(server.url("/"))
-    wait = WebDriverWait(browser, 20)
-    wait.until(lambda d: d.find_element(By.TAG_NAME, "body").get_attribute("data-ready") == "1")
-    Select(browser.find_element(By.ID, "lang")).select_by_value("ru")
+    profile = tempfile.mkdtemp(prefix="vela-chromium-")
+    browser = chromium(profile)
+    try:
+        by_id, wait = browser.find_element, WebDriverWait(browser, 30)
+        browser.get(server.url("/"))
+        wait.until(lambda d: d.find_element(By.TAG_NAME, "body").get_attribute("data-ready") == "1")
+        Select(by_id(By.ID, "lang")).select_by_value("ru")
 
-    type_text(browser, "21руб")
-    wait.until(lambda d: shown_names(d) == ["двадцать", "один", "рубль"])
-    assert browser.find_element(By.ID, "status").text == "spoken"
-    duration = wait.until(lambda d: d.execute_script(
-        "const a = document.getElementById('audio');"
-        "return a.src && a.readyState >= 1 && a.duration > 0 ? a.duration : false;"))
-    assert 0.3 < duration < 10
+        def show(text, status, names):
+            by_id(By.ID, "text").clear()
+            by_id(By.ID, "text").send_keys(text)
+            wait.until(lambda d: by_id(By.ID, "status").text == status)
+            wait.until(lambda d: [li.text for li in d.find_elements(By.CSS_SELECTOR, "#names li")] == names)
 
-    # A partial reading: its status is shown and nothing plays.
-    type_text(browser, "-5xyz")
-    wait.until(lambda d: d.find_element(By.ID, "status").text == "partly spoken")
-    assert shown_names(browser) == ["минус"]
-    wait.until(lambda d: "not fully spoken" in d.find_element(By.ID, "audio-note").text)
-    assert not browser.find_element(By.ID, "audio").is_displayed()  # the earlier answer is gone
+        show("21руб", "spoken", ["двадцать", "один", "рубль"])
+        duration = wait.until(lambda d: d.execute_script(
+            "const a = document.getElementById('audio');"
+            "return a.src && a.readyState >= 1 && a.duration > 0 ? a.duration : false;"))
+        assert 0.3 < duration < 10
+        show("-5xyz", "partly spoken", ["минус"])  # nothing plays, the earlier answer is gone
+        wait.until(lambda d: "not fully spoken" in by_id(By.ID, "audio-note").text)
+        assert not by_id(By.ID, "audio").is_displayed()
 
-
-def test_lists_prompts_with_their_recordings(start_server, voice_root, browser):
-    server = start_server("--voice", "ru=%s" % (voice_root / "ru"))
-    browser.get(server.url("/"))
-    wait = WebDriverWait(browser, 30)
-    wait.until(lambda d: d.find_element(By.TAG_NAME, "body").get_attribute("data-ready") == "1")
-    browser.find_element(By.ID, "prompts-tab").click()
-    rows = wait.until(lambda d: d.find_elements(By.CSS_SELECTOR, "#prompts tr") or False)
-    states, examples = {}, {}
-    for row in rows:
-        cells = [cell.text for cell in row.find_elements(By.TAG_NAME, "td")]
-        states[cells[0]], examples[cells[0]] = cells[2], cells[3]
-    assert states["двадцать"] == "present" and examples["двадцать"] != ""
-    assert states["тридцать"] == "missing"
-    assert "5 recorded" in browser.find_element(By.ID, "prompts-summary").text
+        by_id(By.ID, "prompts-tab").click()
+        rows = wait.until(lambda d: d.find_elements(By.CSS_SELECTOR, "#prompts tr") or False)
+        cells = {r[0]: r for r in ([c.text for c in row.find_elements(By.TAG_NAME, "td")] for row in rows)}
+        assert cells["двадцать"][2] == "present" and cells["двадцать"][3] != ""
+        assert cells["тридцать"][2] == "missing"
+        assert "5 recorded" in by_id(By.ID, "prompts-summary").text
+    finally:
+        browser.quit()
+        shutil.rmtree(profile, ignore_errors=True)
