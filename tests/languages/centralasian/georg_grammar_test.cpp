@@ -53,24 +53,5 @@ TEST(GeorgGrammar, Readings) {
   expectComplaints("ka", refused);
 }
 
-// The compound form where more of the number follows, the final form at its end.
-TEST(GeorgGrammar, FinalFormSpeller) {
-  const struct {
-    const char* digits;
-    bool final;
-    const char* words;
-  } cases[] = {
-      {"1", false, "ert"},          {"1", true, "erti"},     {"20", true, "otsi"},
-      {"40", false, "ormots"},      {"60", true, "samotsi"}, {"21", false, "otsdaert"},
-      {"48", false, "ormotsdarva"}, {"100", false, "as"},    {"140", true, "as ormotsi"},
-      {"1001", false, "atas ert"},  {"0", true, ""},
-  };
-  for (const auto& c : cases) {
-    std::string out;
-    GeorgGrammar::speakInteger(c.digits, out, c.final);
-    EXPECT_EQ(joinNames(out), c.words) << c.digits << " " << c.final;
-  }
-}
-
 }  // namespace
 }  // namespace vela::testing

@@ -68,15 +68,5 @@ TEST(TadjikGrammar, ExactBytes) {
   expectRawReadings("tg", cases);
 }
 
-// The ordinal: the cardinal, the glide after a vowel, "um".
-TEST(TadjikGrammar, OrdinalSpeller) {
-  const Reading cases[] = {{"2", "duyum"}, {"5", "panjum"}, {"20", "bistum"}, {"1000", "yak hazorum"}};
-  for (const Reading& c : cases) {
-    std::string out;
-    TadjikGrammar::speakOrdinal(c.text, out);
-    EXPECT_EQ(joinNames(out), c.prompts) << c.text;
-  }
-}
-
 }  // namespace
 }  // namespace vela::testing

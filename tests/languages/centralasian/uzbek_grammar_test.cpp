@@ -42,23 +42,5 @@ TEST(UzbekGrammar, Readings) {
   expectComplaints("uz", refused);
 }
 
-// -inchi after a consonant, -nchi after a vowel; the round scale words.
-TEST(UzbekGrammar, OrdinalSpeller) {
-  const Reading cases[] = {
-      {"1", "birinchi"},
-      {"2", "ikkinchi"},
-      {"10", "oninchi"},
-      {"20", "yigirmanchi"},
-      {"200", "ikki yuzinchi"},
-      {"1000000", "bir millioninchi"},
-      {"2000000000", "ikki milliardinchi"},
-  };
-  for (const Reading& c : cases) {
-    std::string out;
-    UzbekGrammar::speakInteger(c.text, out, true);
-    EXPECT_EQ(joinNames(out), c.prompts) << c.text;
-  }
-}
-
 }  // namespace
 }  // namespace vela::testing

@@ -23,30 +23,6 @@ DigitGroup groupOf(const char* digits) {
   return group;
 }
 
-// Gaps kept as they stand, teens without a gender, genders out of range; in
-// Ukrainian teens and tens have no nominative ordinal.
-TEST(RussianNumberCore, Speak3) {
-  const struct {
-    const FamilySpeaker* speaker;
-    const char* digits;
-    int gender;
-    int genitive;
-    int ordinal;
-    const char* words;
-  } cases[] = {
-      {&kRussian, "1", kMasculine, 0, 1, "pershij"},
-      {&kRussian, "3", kFeminine, 1, 1, "(ni)"},
-      {&kRussian, "15", 7, 0, 0, "пятнадцать"_cp},
-      {&kRussian, "5", 3, 0, 0, ""},
-      {&kUkrainian, "12", kNeuter, 0, 1, "dvanadtsjat"},
-  };
-  for (const auto& c : cases) {
-    std::string out;
-    EXPECT_EQ(c.speaker->speak3(groupOf(c.digits), c.gender, c.genitive, c.ordinal, out), 1);
-    EXPECT_EQ(joinNames(out), c.words) << c.digits << " " << c.gender << c.genitive << c.ordinal;
-  }
-}
-
 TEST(RussianNumberCore, Speak3RefusesGenitiveWithoutOrdinal) {
   std::string out = "kept";
   int result = -1;
