@@ -39,13 +39,8 @@ constexpr int kPartly = VELA_PARTLY_SPOKEN;
 constexpr int kNone = VELA_NOT_SPOKEN;
 
 const StatusCase kCases[] = {
-    // Russian family: digits above the milliards, a fraction cut or misread,
-    // a unit dropped after a whole fraction, keys without a word, a decimal
-    // where the language has no decimal words.
-    {"ru", 0, "1000000000001", kPartly, ""},
-    {"ru", 0, "1000000000001руб"_cp, kPartly, ""},
-    {"ru", 0, "1.234", kPartly, ""},
-    {"ru", 0, "1.005", kPartly, ""},
+    // Russian family: a unit dropped after a whole fraction, keys without a
+    // word, a decimal where the language has no decimal words, month 0.
     {"ru", 0, "12.001руб"_cp, kPartly, ""},
     {"ru", 0, "7.00kb", kPartly, ""},
     {"ru", 0, "\"1*#\"", kPartly, ""},
@@ -61,14 +56,9 @@ const StatusCase kCases[] = {
     {"ru", 0, "\"0123456789\"", kSpoken, ""},
     {"ru", 0, "7:05:00", kSpoken, ""},
 
-    // English: a count or money part beyond nine digits said as zero, cents
-    // cut, a number above the millions, a decimal separator or key without a
-    // word, month 0 and the century of a marked date left out, hours past the
+    // English: a number above the millions, a decimal separator or key without
+    // a word, month 0 and the century of a marked date left out, hours past the
     // day, the zero phrase that ignores a fraction.
-    {"en", 0, "1234567890usd", kPartly, ""},
-    {"en", 0, "1234567890min", kPartly, ""},
-    {"en", 0, "12.505usd", kPartly, ""},
-    {"en", 0, "1.5000000000usd", kPartly, ""},
     {"en", 0, "\"1234567890:00\"", kPartly, ""},
     {"en", 0, "1,5", kPartly, ""},
     {"en", 0, "\"1*#\"", kPartly, ""},
@@ -83,19 +73,15 @@ const StatusCase kCases[] = {
     {"en", 0, "23:59", kSpoken, ""},
     {"en", 0, "0,0msg", kSpoken, ""},
 
-    // Romanian: a count beyond nine digits says only its noun, the minor part
-    // is cut, month 0, the zero phrase; money beyond nine digits is said digit
-    // by digit and keys have words.
-    {"ro", 0, "1234567890min", kPartly, ""},
-    {"ro", 0, "12.505leu", kPartly, ""},
+    // Romanian: month 0, the zero phrase; money beyond nine digits is said
+    // digit by digit and keys have words.
     {"ro", 0, "1.00.2015", kPartly, ""},
     {"ro", 0, "0.5mes", kPartly, ""},
     {"ro", 0, "1234567890leu", kSpoken, ""},
     {"ro", 0, "\"*#0\"", kSpoken, ""},
 
     // Arabic.
-    // Only the last twelve digits are read; zeros above them lose nothing.
-    {"ar", 0, "1000000000001h", kPartly, ""},
+    // Twelve digits and zeros above them lose nothing; all-zero low digits do.
     {"ar", 0, "1000000000000h", kPartly, ""},  // read as no hours at all
     {"ar", 0, "100000000001h", kSpoken, ""},
     {"ar", 0, "0000000000001h", kSpoken, ""},
@@ -103,8 +89,6 @@ const StatusCase kCases[] = {
     // A word that names no noun: the sign stands alone, or nothing is said.
     {"ar", 0, "-5xyz", kPartly, ""},
     {"ar", 0, "5xyz", kNone, ""},
-    // A fraction of more than nine digits on a count is ignored.
-    {"ar", 0, "5.1234567890h", kPartly, ""},
     // A fraction longer than the minor unit's places is misread as minor units;
     // a shorter one is padded, and a zero one loses nothing.
     {"ar", 0, "5.123d", kPartly, ""},
@@ -126,16 +110,12 @@ const StatusCase kCases[] = {
     {"ar", 0, "25:00", kNone, "wrong time (hours) 25\n"},
 
     // Kazakh, Uzbek, Tajik, Georgian and Armenian, under their various tags.
-    // Only the last twelve digits are read, by every speller.
-    {"kk", 0, "1000000000001", kPartly, ""},
+    // Twelve digits say everything.
     {"kk", 0, "100000000001", kSpoken, ""},
-    {"ARMJAN", 0, "1000000000000rub", kPartly, ""},
     {"ka", 0, "1000000000001", kSpoken, ""},  // a plain Georgian number is read digit by digit
     // A word not in the unit table.
     {"TAJIK", 0, "-5xyz", kPartly, ""},
     {"hy", 0, "-5xyz", kPartly, ""},
-    // A fraction of more than nine digits on a count.
-    {"uz", 0, "5.1234567890h", kPartly, ""},
     // A minor part of more than two digits is read as that many minor units.
     {"UZBEK", 0, "5.123rub", kPartly, ""},
     {"uz", 0, "5.5rub", kSpoken, ""},
@@ -150,7 +130,6 @@ const StatusCase kCases[] = {
     {"kk", 0, "5.00", kPartly, ""},
     {"uz", 0, "5.01", kSpoken, ""},
     // Georgian thousands ending in 1 say only the scale word.
-    {"ka", 0, "21000rub", kPartly, ""},
     {"ka", 0, "1000rub", kSpoken, ""},
     // Armenian seconds 11-19 are not read as their number.
     {"hy", 0, "7:05:15", kPartly, ""},
@@ -173,14 +152,16 @@ TEST(StatusTest, PartialReadingsAreNeverSpoken) {
 }
 
 // A fully spoken reading depends on every digit of its text: changing one of
-// them changes the names. Texts of every shape ("#" a random digit).
+// them changes the names. Texts of every shape ("#" a random digit), long runs
+// now and then: this is what finds digits cut from a number, a fraction or a
+// minor part, so the table above holds the other ways and the near misses.
 TEST(StatusTest, SpokenReadingsSayEveryDigit) {
   static const char* const kShapes[] = {
       "#",    "##",       "-#h",     "#rub",        "#d",        "##.#d",       "#.###dinar", "#.#######h",
       "#.##", "#.##.20#", "##:##",   "##:##:##",    "\"##:##\"", "\"#:##:##\"", "\"#*##\"",   "#-##",
       "##.#", "#####usd", "-####ab", "###########", "##.###",    ",##kzt",      "##|#gel",    "#######amd",
   };
-  static const char* const kTags[] = {"ar", "kk", "uz", "tg", "ka", "hy"};
+  static const char* const kTags[] = {"ar", "kk", "uz", "tg", "ka", "hy", "ru", "uk", "en", "ro"};
   std::mt19937 random(18);
   const auto digit = [&random] { return static_cast<char>('0' + random() % 10); };
   for (const char* tag : kTags) {
