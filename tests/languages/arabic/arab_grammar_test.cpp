@@ -129,7 +129,7 @@ const Reading kRawBytes[] = {
     {"8h", " thamaanii  saacaat"},
     {"21usd", " waahid wa ^ishruun duulaar"},
     {"5.01.2005", " lkhaamis min yanaayir ^aam ^alfayn wa khams "},
-    {"2005", " ^ithnaan  sifr  sifr  khamsa "},
+    {"2009", " ^ithnaan  sifr  sifr  tisca "},
     {"1-2", " waahid   ^ithnaan "},
     {"\"12#*\"", "  waahid  ^ithnaan    "},
     {"1,5", " waahid   khamsa "},

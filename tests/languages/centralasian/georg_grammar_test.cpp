@@ -53,5 +53,12 @@ TEST(GeorgGrammar, Readings) {
   expectComplaints("ka", refused);
 }
 
+// The blanks: a group opens with one, a word inside it is padded on both
+// sides, so no hundreds word leaves its blank behind.
+TEST(GeorgGrammar, ExactBytes) {
+  const Reading cases[] = {{"43ab", "  ormotsdasami  abonenti"}, {"143ab", " as  ormotsdasami  abonenti"}};
+  expectRawReadings("ka", cases);
+}
+
 }  // namespace
 }  // namespace vela::testing

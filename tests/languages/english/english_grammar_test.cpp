@@ -37,6 +37,7 @@ const Reading kEnglish[] = {
     {"3.999kzt", "three tenges and ninety nine tiyn"},
     {"0.25usd", "zero dollars twenty five cents"},
     {"21.01amd", "twenty one drams and one lumm"},
+    {"2.5rub", "two rubles and fifty kopecks"},
     {"1.0USD", "one dollar"},
     {",5usd", "zero dollars fifty cents"},
     // Centuries 19 and 20 only (the "(I)" form passes none); the last two
