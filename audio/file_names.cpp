@@ -8,10 +8,8 @@
 #include "audio/render.h"
 
 namespace vela::audio {
-namespace {
 
-// Converts with iconv; nullopt when the input has no counterpart or is malformed.
-std::optional<std::string> convert(std::string_view text, const char* to, const char* from) {
+std::optional<std::string> convertText(std::string_view text, const char* to, const char* from) {
   iconv_t cd = iconv_open(to, from);
   if (cd == reinterpret_cast<iconv_t>(-1))  // NOLINT(performance-no-int-to-ptr): iconv's error value
     return std::nullopt;
@@ -28,14 +26,16 @@ std::optional<std::string> convert(std::string_view text, const char* to, const 
   return out;
 }
 
+namespace {
+
 // The UTF-8 spelling of every Windows-1251 byte; the undefined 0x98 is U+FFFD
 // (it is always escaped in file names).
 const std::array<std::string, 256>& utf8Table() {
   static const std::array<std::string, 256> table = [] {
     std::array<std::string, 256> t;
     for (int byte = 0; byte < 256; ++byte) {
-      t[byte] =
-          convert(std::string(1, static_cast<char>(byte)), "UTF-8", "WINDOWS-1251").value_or("\xEF\xBF\xBD");
+      t[byte] = convertText(std::string(1, static_cast<char>(byte)), "UTF-8", "WINDOWS-1251")
+                    .value_or("\xEF\xBF\xBD");
     }
     return t;
   }();
@@ -55,6 +55,12 @@ int hexValue(char c) {
 }
 
 }  // namespace
+
+std::string utf8FromCp1251(std::string_view bytes) {
+  std::string out;
+  for (char c : bytes) out += utf8Table()[static_cast<unsigned char>(c)];
+  return out;
+}
 
 std::string promptFileStem(std::string_view name) {
   std::string file;
@@ -76,7 +82,7 @@ std::optional<std::string> promptNameOfStem(std::string_view stem) {
   std::string run;  // UTF-8 between escapes
   const auto flush = [&]() -> bool {
     if (run.empty()) return true;
-    const auto bytes = convert(run, "WINDOWS-1251", "UTF-8");
+    const auto bytes = convertText(run, "WINDOWS-1251", "UTF-8");
     if (!bytes) return false;
     name += *bytes;
     run.clear();

@@ -89,6 +89,14 @@ struct Voice {
 inline constexpr std::array<std::string_view, 6> kRecordingExtensions = {".wav", ".flac", ".sln16",
                                                                          ".sln", ".ulaw", ".alaw"};
 
+// Text converted with iconv; nullopt when a character has no counterpart in the
+// target encoding or the input is malformed.
+std::optional<std::string> convertText(std::string_view text, const char* to, const char* from);
+
+// Windows-1251 bytes as UTF-8; the one byte the code page leaves undefined
+// (0x98) becomes U+FFFD.
+std::string utf8FromCp1251(std::string_view bytes);
+
 // The file name of a prompt without its extension: the name in UTF-8, with each
 // byte a file system dislikes written as "%" and two hexadecimal digits of its
 // Windows-1251 value: control bytes, / \ : * ? " < > |, "%" itself, the

@@ -7,8 +7,9 @@
 
 namespace vela::tools {
 
-// Converts with iconv; nullopt when a character has no counterpart in the
-// target encoding or the input is malformed.
+// Converts with iconv (the audio module's converter, which also names the
+// recordings); nullopt when a character has no counterpart in the target
+// encoding or the input is malformed.
 std::optional<std::string> convert(const std::string& text, const char* to, const char* from);
 
 // Windows-1251 bytes as UTF-8; the one byte the code page leaves undefined
