@@ -27,7 +27,7 @@ const std::string kTexts[] = {
     "25:61",  // a complaint
 };
 
-// The stated answer, then the reading's status, names and complaints.
+// The answer of decodeText, then the reading's status, names and complaints.
 std::string decode(const char* tag, const std::string& text, unsigned char mode) {
   char* out = nullptr;
   vela_reading reading;
