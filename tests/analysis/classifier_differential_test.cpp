@@ -28,19 +28,8 @@
 namespace vela {
 namespace {
 
-std::string escaped(const std::string& text) {
-  std::string shown;
-  for (unsigned char c : text) {
-    if (c >= 0x20 && c < 0x7F && c != '\\') {
-      shown += static_cast<char>(c);
-    } else {
-      char hex[8];
-      std::snprintf(hex, sizeof hex, "\\x%02X", c);
-      shown += hex;
-    }
-  }
-  return shown.size() > 120 ? shown.substr(0, 120) + "...(" + std::to_string(text.size()) + " bytes)" : shown;
-}
+// The text quoted, its bytes outside printable ASCII escaped.
+std::string escaped(const std::string& text) { return ::testing::PrintToString(text); }
 
 // Every grammar class, so the final answers are compared in each language.
 std::vector<IGrammar*> allGrammars() {
@@ -82,9 +71,9 @@ void compareRules(const std::string& text, Tally& tally) {
     if (classifyToken(text, rule, match) != rule) tally.fail("classifyToken skips a rule: " + escaped(text));
     for (int k = 0; k < TokenMatch::kGroups; ++k) {
       if (match.group[k] != expected.groups[k]) {
-        tally.fail("rule " + std::to_string(rule + 1) + " group " + std::to_string(k) + " \"" +
-                   escaped(std::string(match.group[k])) + "\" instead of \"" + escaped(expected.groups[k]) +
-                   "\": " + escaped(text));
+        tally.fail("rule " + std::to_string(rule + 1) + " group " + std::to_string(k) + " " +
+                   escaped(std::string(match.group[k])) + " instead of " + escaped(expected.groups[k]) + ": " +
+                   escaped(text));
       }
     }
   }
@@ -97,8 +86,7 @@ void compareAnswer(IGrammar& grammar, const std::string& text, Tally& tally) {
   runRules(decoder);
   ++tally.answers;
   if (!gaveUp && decoder.output != expected) {
-    tally.fail("answer \"" + escaped(decoder.output) + "\" instead of \"" + escaped(expected) +
-               "\": " + escaped(text));
+    tally.fail("answer " + escaped(decoder.output) + " instead of " + escaped(expected) + ": " + escaped(text));
   }
 }
 

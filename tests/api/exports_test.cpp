@@ -4,22 +4,15 @@
 #include <string>
 #include <vector>
 
+#include "support/speak.h"
 #include "vela/vela.h"
 
 namespace {
 
-std::string decode(const char* tag, const std::string& text) {
-  char* out = nullptr;
-  if (decodeBuffer(tag, text.c_str(), &out) != 0 || out == nullptr) return "<failed>";
-  std::string result = out;
-  decodeReleaseBuffer(out);
-  return result;
-}
-
 TEST(DecodeBufferTest, OwnsAndReleases) {
-  EXPECT_EQ(decode("en", ""), "");
-  EXPECT_EQ(decode("en", "    "), "    ");
-  EXPECT_EQ(decode("no such tag", "ab"), "ab");
+  EXPECT_EQ(vela::testing::decodeRaw("en", ""), "");
+  EXPECT_EQ(vela::testing::decodeRaw("en", "    "), "    ");
+  EXPECT_EQ(vela::testing::decodeRaw("no such tag", "ab"), "ab");
   decodeReleaseBuffer(nullptr);
   EXPECT_EQ(decodeBuffer("en", "1", nullptr), -1);
 }

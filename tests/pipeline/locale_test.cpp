@@ -6,24 +6,19 @@
 #include <string>
 
 #include "grammar/helpers.h"
+#include "support/speak.h"
 #include "vela/vela.h"
 
 namespace {
 
-std::string decode(const char* tag, const char* text) {
-  char* out = nullptr;
-  decodeBuffer(tag, text, &out);
-  std::string result = out != nullptr ? out : "<null>";
-  decodeReleaseBuffer(out);
-  return result;
-}
+using vela::testing::decodeRaw;
 
 const char* const kTexts[] = {"\xB8",      "\xC0",       "x",      "12.50\xD0\xD3\xC1",
                               "5\xB8\xE6", "31.12.1999", "\"1#\"", "15"};
 
 TEST(LocaleTest, HostLocaleChangesNothing) {
   std::vector<std::string> before;
-  for (const char* t : kTexts) before.push_back(decode("ru", t));
+  for (const char* t : kTexts) before.push_back(decodeRaw("ru", t));
 
   std::locale cp1251;
   try {
@@ -37,7 +32,7 @@ TEST(LocaleTest, HostLocaleChangesNothing) {
   const std::string oldC = std::setlocale(LC_ALL, nullptr);
   std::setlocale(LC_ALL, "ru_RU.CP1251");
 
-  for (std::size_t i = 0; i < std::size(kTexts); ++i) EXPECT_EQ(decode("ru", kTexts[i]), before[i]) << i;
+  for (std::size_t i = 0; i < std::size(kTexts); ++i) EXPECT_EQ(decodeRaw("ru", kTexts[i]), before[i]) << i;
   EXPECT_TRUE(vela::matchesWord("\xD0\xD3\xC1", "\xF0\xF3\xE1"));
   EXPECT_FALSE(vela::matchesWord("\xB8", "\xA8"));
 

@@ -27,7 +27,7 @@ struct Reading {
 inline std::string decodeRaw(const char* tag, const std::string& text, int mode = 0) {
   char* out = nullptr;
   EXPECT_EQ(mode == 0 ? decodeBuffer(tag, text.c_str(), &out) : decodeText(tag, text.c_str(), &out, mode), 0);
-  std::string result = out != nullptr ? out : "";
+  std::string result = out != nullptr ? out : "<null>";
   decodeReleaseBuffer(out);
   return result;
 }
