@@ -17,15 +17,14 @@ namespace vela::testing {
 class ScratchTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    dir_ = std::filesystem::path(::testing::TempDir()) /
-           ("vela_" + std::to_string(getpid()) + "_" +
-            ::testing::UnitTest::GetInstance()->current_test_info()->name());
     std::filesystem::remove_all(dir_);
     std::filesystem::create_directories(dir_);
   }
   void TearDown() override { std::filesystem::remove_all(dir_); }
 
-  std::filesystem::path dir_;
+  std::filesystem::path dir_ = std::filesystem::path(::testing::TempDir()) /
+                               ("vela_" + std::to_string(getpid()) + "_" +
+                                ::testing::UnitTest::GetInstance()->current_test_info()->name());
 };
 
 // Sample i of channel c of the test tone, as a 16-bit value.
@@ -61,9 +60,8 @@ struct ReadBack {
   SF_INFO info{};
   std::vector<short> samples;
 };
-inline ReadBack readBack(const std::filesystem::path& path, SF_INFO header = {}) {
+inline ReadBack readBack(const std::filesystem::path& path) {
   ReadBack back;
-  back.info = header;
   SNDFILE* f = sf_open(path.c_str(), SFM_READ, &back.info);
   if (f == nullptr) return back;
   back.samples.resize(static_cast<std::size_t>(back.info.frames * back.info.channels));

@@ -36,15 +36,12 @@ TEST(PlatformsTest, ExportTargetsAreWherePlatformsLook) {
     // layout, destination, language, region, voice name, rates, encoding, headerless
     const auto targets =
         vela::audio::exportTargets({row.layout, "D", "ru", "", "v", row.rates, row.encoding, row.headerless});
-    std::vector<std::string> paths;
-    if (!targets) {
-      paths.push_back("");
-    } else {
+    std::vector<std::string> paths(targets ? 0 : 1, "");
+    if (targets)
       for (const auto& t : *targets) {
         paths.push_back(t.folder + "/NAME" + t.extension);
         EXPECT_EQ(t.format.encoding, row.encoding);
       }
-    }
     EXPECT_EQ(paths, row.paths) << row.paths[0];
   }
 }

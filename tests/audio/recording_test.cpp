@@ -22,14 +22,13 @@ void writeBytes(const fs::path& path, const std::string& bytes) {
 class RecordingTest : public vela::testing::ScratchTest {};
 
 TEST_F(RecordingTest, BadFilesGetTheirOwnErrorQuickly) {
-  struct Row {
+  // The kinds the tool's commands meet are tested with them; these are the rest.
+  const struct {
     const char* file;
     void (*make)(const fs::path&);
     Fault fault;
     const char* says;
-  };
-  // The kinds the tool's commands meet are tested with them; these are the rest.
-  const Row rows[] = {
+  } rows[] = {
       {"dangling.wav", [](const fs::path& p) { fs::create_symlink("nowhere.wav", p); }, Fault::missing,
        "no such file"},
       {"cut.wav",
@@ -42,7 +41,7 @@ TEST_F(RecordingTest, BadFilesGetTheirOwnErrorQuickly) {
        "no sound"},
       {"odd.sln", [](const fs::path& p) { writeBytes(p, "abc"); }, Fault::truncated, "inside a sample"},
   };
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     const fs::path path = dir_ / row.file;
     row.make(path);
     const auto start = std::chrono::steady_clock::now();
@@ -62,20 +61,17 @@ TEST_F(RecordingTest, HeaderlessFilesAreReadByTheirExtension) {
     writeBytes(dir_ / file, std::string(800, '\x55'));
     const auto sound = vela::audio::readRecording((dir_ / file).string());
     ASSERT_TRUE(sound) << sound.error().message;
-    EXPECT_EQ(sound->info.rate, rate) << file;
-    EXPECT_EQ(sound->info.frames, frames) << file;
-    EXPECT_EQ(sound->info.channels, 1);
+    EXPECT_EQ(std::tuple(sound->info.rate, sound->info.frames, sound->info.channels),
+              std::tuple(rate, frames, 1))
+        << file;
   }
 }
 
 TEST_F(RecordingTest, TheFirstFolderWithAFileWinsAndExtensionsKeepTheirOrder) {
-  fs::create_directories(dir_ / "real");
-  fs::create_directories(dir_ / "demo");
-  writeBytes(dir_ / "real" / "a.sln", "xx");
-  writeBytes(dir_ / "real" / "a.wav", "not audio");  // found first, and reported rather than skipped
-  writeBytes(dir_ / "demo" / "a.wav", "x");
-  writeBytes(dir_ / "demo" / "b.ulaw", "x");
-  writeBytes(dir_ / "demo" / "b.flac", "x");
+  for (const char* folder : {"real", "demo"}) fs::create_directories(dir_ / folder);
+  // real/a.wav is found first, and reported rather than skipped: "x" is no recording.
+  for (const char* file : {"real/a.sln", "real/a.wav", "demo/a.wav", "demo/b.ulaw", "demo/b.flac"})
+    writeBytes(dir_ / file, "x");
   const vela::audio::Voice voice{{(dir_ / "real").string(), (dir_ / "demo").string()}};
   EXPECT_EQ(vela::audio::findRecording(voice, "a"), (dir_ / "real" / "a.wav").string());
   EXPECT_EQ(vela::audio::findRecording(voice, "b"), (dir_ / "demo" / "b.flac").string());
@@ -89,9 +85,8 @@ TEST_F(RecordingTest, TheFirstFolderWithAFileWinsAndExtensionsKeepTheirOrder) {
 TEST_F(RecordingTest, OutputIsWholeOrAbsentEvenWhenTheProcessIsKilled) {
   const fs::path out = dir_ / "out.wav";
   ASSERT_FALSE(vela::audio::writeOutputFile(out.string(), "complete"));
-  std::ifstream in(out);
   std::string content;
-  in >> content;
+  std::ifstream(out) >> content;
   EXPECT_EQ(content, "complete");
   EXPECT_TRUE(vela::audio::writeOutputFile((dir_ / "no" / "such" / "folder.wav").string(), "x"));
 

@@ -11,13 +11,12 @@ import pytest
 
 VELA = os.environ.get("VELA_TOOL", "build/vela")
 SANITIZED = os.environ.get("VELA_SANITIZED") == "1"
-VOICE_PROMPTS = {"ru": ["двадцать", "один", "рубль", "рубля", "два"], "en": ["one", "two"]}
 
 
 class Server:
     def __init__(self, *args):
         self.proc = subprocess.Popen([VELA, "serve", "--listen", "127.0.0.1:0", *args],
-                                     stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+                                     stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
         first = self.proc.stderr.readline().decode()
         if "listening on" not in first:
             self.proc.kill()
@@ -42,8 +41,7 @@ def start_server():
 
     yield start
     for server in servers:
-        if server.proc.poll() is None:
-            server.proc.send_signal(signal.SIGTERM)
+        server.proc.send_signal(signal.SIGTERM)  # unless it has ended
         try:
             code = server.proc.wait(timeout=30)
         except subprocess.TimeoutExpired:
@@ -54,18 +52,24 @@ def start_server():
 
 @pytest.fixture(scope="session")
 def voice_root(tmp_path_factory):
-    """An espeak-ng voice per language; beside the voice folders, a file no URL may reach."""
+    """A Russian espeak-ng voice in root/ru; beside it, a file no URL may reach."""
     if shutil.which("espeak-ng") is None:
         pytest.fail("espeak-ng is needed (scripts/setup.sh installs it)")
     root = tmp_path_factory.mktemp("voices")
-    for lang, names in VOICE_PROMPTS.items():
-        os.makedirs(root / lang)
-        for name in names:
-            subprocess.run(["espeak-ng", "-v", lang, "-s", "220", "-w", str(root / lang / (name + ".wav")), name],
-                           check=True, capture_output=True)
+    os.makedirs(root / "ru")
+    for name in ["двадцать", "один", "рубль", "два"]:  # 21руб and 2
+        subprocess.run(["espeak-ng", "-v", "ru", "-s", "220", "-w", str(root / "ru" / (name + ".wav")), name],
+                       check=True, capture_output=True)
     (root / "secret.txt").write_text("not for the web\n")
     (root / "ru" / "notes.wav").write_bytes((root / "ru" / "два.wav").read_bytes())
     return root
+
+
+@pytest.fixture
+def voice(tmp_path, voice_root):
+    """A private copy of the Russian test voice, free to change, with secret.txt beside it."""
+    shutil.copytree(voice_root, tmp_path / "voices")
+    return tmp_path / "voices" / "ru"
 
 
 def wait_until(predicate, timeout=10.0):

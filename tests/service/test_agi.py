@@ -1,6 +1,7 @@
 """The Asterisk AGI recipe against recorded AGI conversations: what Asterisk
 sends on the script's standard input, and exactly what the script must write
 on its standard output (AGI commands and nothing else)."""
+import fnmatch
 import importlib.util
 import os
 import subprocess
@@ -17,11 +18,11 @@ OK = "200 result=0\n"
 
 
 def play(*names):
-    return ['STREAM FILE vela/%s "0123456789*#"' % name for name in names]
+    return ['STREAM FILE vela/%s "0123456789[*]#"' % name for name in names]
 
 
 # text and tag as the dialplan passes them, the channel's language, Asterisk's
-# answers, and the commands the script must send (None: any VERBOSE complaint).
+# answers, and the commands the script must send (as fnmatch patterns).
 SPOKEN = "SET VARIABLE VELA_STATUS spoken"
 CONVERSATIONS = [
     ("spoken", "agi_arg_1: 21руб\nagi_arg_2: ru\n", "en", [OK] * 4, [SPOKEN] + play("двадцать", "один", "рубль")),
@@ -32,7 +33,8 @@ CONVERSATIONS = [
     ("complaint, nothing played", "agi_arg_1: 25:70\n", "ru", [OK] * 2,
      ['VERBOSE "vela: wrong time (hours) 25" 3', "SET VARIABLE VELA_STATUS not_spoken"]),
     ("partly spoken plays nothing", "agi_arg_1: -5xyz\n", "ru", [OK], ["SET VARIABLE VELA_STATUS partly_spoken"]),
-    ("text outside the code page", "agi_arg_1: 中\n", "ru", [OK] * 2, [None, "SET VARIABLE VELA_STATUS error"]),
+    ("text outside the code page", "agi_arg_1: 中\n", "ru", [OK] * 2,
+     ['VERBOSE "vela: *" 1', "SET VARIABLE VELA_STATUS error"]),
 ]
 
 
@@ -43,23 +45,17 @@ def test_agi_conversation(args, language, answers, commands):
     run = subprocess.run([sys.executable, SCRIPT], input=ENV % (language, args) + "".join(answers),
                          capture_output=True, text=True, env=env, timeout=60)
     assert run.returncode == 0, run.stderr
-    sent = run.stdout.split("\n")
-    assert sent[-1] == "" and len(sent) - 1 == len(commands), run.stdout
-    for line, expected in zip(sent, commands):
-        if expected is None:
-            assert line.startswith('VERBOSE "vela: ') and line.endswith('" 1'), line
-        else:
-            assert line == expected
+    sent = run.stdout.split("\n")  # each command ends its line
+    assert len(sent) - 1 == len(commands) and all(map(fnmatch.fnmatchcase, sent, commands)), run.stdout
 
 
-@pytest.mark.parametrize("tag", ["ru", "en", "hy"])
-def test_file_names_agree_with_the_voice_folders(tag):
+def test_file_names_agree_with_the_voice_folders():
     """The script names files as `vela prompts --files` does, for every prompt."""
-    listed = subprocess.run([VELA, "prompts", "-l", tag, "--files"], capture_output=True, text=True, check=True)
     found = importlib.util.spec_from_file_location("vela_agi", SCRIPT)
     script = importlib.util.module_from_spec(found)
     sys.path.insert(0, os.path.join(ROOT, "python"))
     found.loader.exec_module(script)
-    for line in listed.stdout.splitlines():
-        name, file = line.split("\t")
-        assert script.file_stem(name) + ".wav" == file
+    for tag in ["ru", "en", "hy"]:
+        for line in subprocess.check_output([VELA, "prompts", "-l", tag, "--files"], text=True).splitlines():
+            name, file = line.split("\t")
+            assert script.file_stem(name) + ".wav" == file, tag
