@@ -54,6 +54,7 @@ if [ -z "$flags" ]; then
 fi
 
 if [ -n "$jvm_tests" ]; then
-  java -Djava.library.path="$prefix/$libdir" -cp "$prefix/share/java/vela.jar:$jvm_tests" VelaJvmTest
+  java -Djava.library.path="$prefix/$libdir" -cp "$prefix/share/java/vela.jar:$jvm_tests" VelaJvmTest \
+    "$prefix/include/vela/vela.h"
 fi
 echo "install test ok"

@@ -42,17 +42,13 @@ def test_read(tag, text, latin, expected, capfd):
 
 
 @pytest.mark.parametrize(
-    "tag, text",
-    [("ru", "漢"), ("ru", "21₽"), ("日本", "5"), ("ru", "a\0b"), ("xx", "5")],
+    "tag, text, error",
+    [("ru", "漢", ValueError), ("ru", "21₽", ValueError), ("日本", "5", ValueError), ("ru", "a\0b", ValueError),
+     ("xx", "5", ValueError), ("ru", b"21", TypeError)],
 )
-def test_bad_tags_and_characters_are_value_errors(tag, text):
-    with pytest.raises(ValueError):
+def test_bad_tags_and_texts_are_refused(tag, text, error):
+    with pytest.raises(error):
         vela.speak(tag, text)
-
-
-def test_text_must_be_str():
-    with pytest.raises(TypeError):
-        vela.read("ru", b"21")
 
 
 def test_version_is_the_headers():
@@ -67,7 +63,6 @@ def test_loads_the_library_named_by_the_environment():
     if not os.path.exists(tree_library):
         pytest.skip("no build/ directory beside the sources")
     env = {k: v for k, v in os.environ.items() if k != "VELA_LIBRARY"}
-    out = subprocess.run(
-        [sys.executable, "-c", "import vela; print(vela.speak('ru', '5'))"],
-        env=env, capture_output=True, text=True, check=False)
-    assert out.returncode == 0 and out.stdout.strip() == "['пять']", out.stderr
+    out = subprocess.run([sys.executable, "-c", "import vela; print(vela.speak('ru', '5'))"], env=env,
+                         capture_output=True, text=True, check=False)
+    assert (out.returncode, out.stdout) == (0, "['пять']\n"), out.stderr
