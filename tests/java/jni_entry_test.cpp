@@ -104,16 +104,13 @@ TEST(JniEntry, ArgumentsAtTheirBounds) {
 // null (Java's OutOfMemoryError is pending), releasing what it already holds.
 TEST(JniEntry, JvmOutOfMemoryGivesNull) {
   const std::string text = "a.wav", language = "en";
-  for (int failAt : {0, 1}) {
+  for (int failAt : {0, 1, 2}) {  // the first argument, the second, the answer
     FakeJvm jvm;
-    jvm.failAt = failAt;
+    jvm.failAt = failAt < 2 ? failAt : -1;
+    jvm.failNewArray = failAt == 2;
     EXPECT_EQ(jvm.call(&text, &language), nullptr) << failAt;
-    EXPECT_EQ(jvm.held, 0) << failAt;
+    EXPECT_EQ(std::tuple(jvm.held, jvm.regionsSet), std::tuple(0, 0)) << failAt;
   }
-  FakeJvm jvm;
-  jvm.failNewArray = true;
-  EXPECT_EQ(jvm.call(&text, &language), nullptr);
-  EXPECT_EQ(jvm.regionsSet, 0);
 }
 
 }  // namespace

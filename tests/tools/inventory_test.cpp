@@ -95,8 +95,7 @@ TEST(UnitWordsTest, TheListedKeysAreTheWordsTheGrammarReads) {
     {
       const vela::tools::QuietGrammars quiet;  // hides gtest's output too: report afterwards
       for (const std::string& key : listed) {
-        if (!std::all_of(key.begin(), key.end(), [](char c) { return vela::testing::isUnitLetter(c); }))
-          continue;
+        if (!std::ranges::all_of(key, vela::testing::isUnitLetter)) continue;
         ++readable;
         std::string out;
         if (grammar->speakAmount({"1"}, {}, "1", "", key, out) == -1 ||

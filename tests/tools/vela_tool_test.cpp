@@ -46,12 +46,6 @@ class ToolTest : public vela::testing::ScratchTest {
     return (prompt.empty() ? dir_ / "voice" : dir_ / "voice" / (prompt + ".wav")).string();
   }
   std::string output(const char* name = "x.wav") const { return (dir_ / name).string(); }
-  // 21руб is двадцать один рубль.
-  void writeVoice() {
-    fs::create_directories(voice());
-    for (const char* prompt : {"двадцать", "один", "рубль"})
-      vela::testing::writeTone(voice(prompt), 16000, 1, 8000);
-  }
 };
 
 TEST_F(ToolTest, ReadsAndComplains) {
@@ -117,9 +111,11 @@ TEST(RecordingFileNameTest, RoundTripsAndRefusesOtherStems) {
     EXPECT_EQ(vela::audio::promptNameOfStem(notOurs), std::nullopt) << notOurs;
 }
 
-TEST_F(ToolTest, SayWritesWhatItIsAskedFor) {
-  writeVoice();
-  vela::testing::writeTone(voice("один"), 44100, 2, 22050);  // an outlier is converted
+// The export trees themselves are tested with the targets (tests/audio/platforms_test.cpp).
+TEST_F(ToolTest, SayAndExportWriteWhatTheyAreAskedFor) {
+  fs::create_directories(voice());  // 21руб is двадцать один рубль; один an outlier, converted
+  for (const char* prompt : {"двадцать", "рубль"}) vela::testing::writeTone(voice(prompt), 16000, 1, 8000);
+  vela::testing::writeTone(voice("один"), 44100, 2, 22050);
   // output, options, format and rate; format 0: headerless, and its size in bytes
   const std::tuple<const char*, const char*, int, int> rows[] = {
       {"x.wav", "--rate 8000 --encoding ulaw", SF_FORMAT_WAV | SF_FORMAT_ULAW, 8000},
@@ -140,6 +136,16 @@ TEST_F(ToolTest, SayWritesWhatItIsAskedFor) {
   const Result piped = run(say + "-o - 21руб");  // the bytes of the second row, on standard output
   EXPECT_EQ(piped.err, "");
   EXPECT_TRUE(piped.out == slurp(output())) << piped.out.size() << " bytes piped";
+
+  const std::string dest = output("dest"), exportRu = "voice export -l ru --voice " + voice();
+  // prompts left to record: status 1
+  EXPECT_EQ(run(exportRu + " --layout asterisk --encoding ulaw " + dest).status, 1);
+  EXPECT_NEAR(static_cast<double>(fs::file_size(dest + "/sounds/ru/vela/один.ulaw")), 4000, 4);
+  EXPECT_EQ(run(exportRu + " --layout freeswitch --rate 8000 --rate 32000 --name anna " + dest).status, 1);
+  EXPECT_EQ(vela::testing::readBack(dest + "/ru/ru/anna/vela/32000/один.wav").info.samplerate, 32000);
+  EXPECT_EQ(vela::testing::readBack(dest + "/ru/ru/anna/vela/8000/двадцать.wav").info.samplerate, 8000);
+  // Asterisk has no 16 kHz mu-law files
+  EXPECT_EQ(run(exportRu + " --layout asterisk --encoding ulaw --rate 16000 " + dest).status, 2);
 }
 
 // A bad recording: say fails quickly, naming the file, leaving the old output
@@ -197,20 +203,6 @@ TEST_F(ToolTest, CheckNamesWhatNeedsFixing) {
   for (const std::string& expected : std::vector<std::string>{
            "missing: 1", "format: 1", "silence: 1", "loudness: 2", "44100 Hz, 2 channels", files[3]})
     EXPECT_NE(r.both().find(expected), std::string::npos) << expected << " in " << r.both();
-}
-
-// The trees themselves are tested with the targets (tests/audio/platforms_test.cpp).
-TEST_F(ToolTest, ExportTakesEachPlatformsOptions) {
-  writeVoice();
-  const std::string dest = output("dest"), exportRu = "voice export -l ru --voice " + voice();
-  // prompts left to record: status 1
-  EXPECT_EQ(run(exportRu + " --layout asterisk --encoding ulaw " + dest).status, 1);
-  EXPECT_NEAR(static_cast<double>(fs::file_size(dest + "/sounds/ru/vela/один.ulaw")), 4000, 4);
-  EXPECT_EQ(run(exportRu + " --layout freeswitch --rate 8000 --rate 32000 --name anna " + dest).status, 1);
-  EXPECT_EQ(vela::testing::readBack(dest + "/ru/ru/anna/vela/32000/один.wav").info.samplerate, 32000);
-  EXPECT_EQ(vela::testing::readBack(dest + "/ru/ru/anna/vela/8000/двадцать.wav").info.samplerate, 8000);
-  // Asterisk has no 16 kHz mu-law files
-  EXPECT_EQ(run(exportRu + " --layout asterisk --encoding ulaw --rate 16000 " + dest).status, 2);
 }
 
 // The multi-voice say and the conversion are tested in tests/audio.
