@@ -17,7 +17,6 @@
 // output.
 #include <cstdio>
 #include <fstream>
-#include <iterator>
 #include <optional>
 #include <ostream>
 #include <sstream>
