@@ -12,47 +12,34 @@ import vela
 HEADER = os.path.join(os.path.dirname(__file__), "..", "..", "include", "vela", "vela.h")
 
 
-@pytest.mark.parametrize(
-    "tag, text, transliterated, names",
-    [
-        ("ru", "21руб", False, ["двадцать", "один", "рубль"]),
-        ("ru", "12.50rub", True, ["dvenadcat", "rublei", "pyatdesyat", "kopeek"]),
-        ("en", "1.05usd", True, ["one", "dollar", "and", "five", "cents"]),  # only Russian has two modes
-        ("ru", "  ab  ", False, []),  # no rule takes it: nothing, never the text
-        ("ru", "a.wav\tb.wav", False, ["a.wav\tb.wav"]),  # file names pass through, split only at spaces
-    ],
-)
+@pytest.mark.parametrize("tag, text, transliterated, names", [
+    ("ru", "21руб", False, ["двадцать", "один", "рубль"]),
+    ("ru", "12.50rub", True, ["dvenadcat", "rublei", "pyatdesyat", "kopeek"]),
+    ("en", "1.05usd", True, ["one", "dollar", "and", "five", "cents"]),  # only Russian has two modes
+    ("ru", "  ab  ", False, []),  # no rule takes it: nothing, never the text
+    ("ru", "a.wav\tb.wav", False, ["a.wav\tb.wav"]),  # file names pass through, split only at spaces
+])
 def test_speak(tag, text, transliterated, names):
     assert vela.speak(tag, text, transliterated=transliterated) == names
 
 
-@pytest.mark.parametrize(
-    "tag, text, latin, expected",
-    [
-        ("ru", "1.234", False, vela.Reading(["одна", "целая", "двадцать", "три", "сотых"],
-                                            vela.Status.PARTLY_SPOKEN, [], False)),
-        ("ru", "7:75", False, vela.Reading([], vela.Status.NOT_SPOKEN, ["wrong time (minutes) 7"], False)),
-        ("xx", "5", False, vela.Reading(["five"], vela.Status.SPOKEN, [], True)),
-        ("ru", "5", True, vela.Reading(["pyat"], vela.Status.SPOKEN, [], False)),
-    ],
-)
-def test_read(tag, text, latin, expected, capfd):
-    assert vela.read(tag, text, latin=latin) == expected
+@pytest.mark.parametrize("tag, text, latin, names, status, diagnostics, unknown_tag", [
+    ("ru", "1.234", False, ["одна", "целая", "двадцать", "три", "сотых"], vela.Status.PARTLY_SPOKEN, [], False),
+    ("ru", "7:75", False, [], vela.Status.NOT_SPOKEN, ["wrong time (minutes) 7"], False),
+    ("xx", "5", False, ["five"], vela.Status.SPOKEN, [], True),
+    ("ru", "5", True, ["pyat"], vela.Status.SPOKEN, [], False),
+])
+def test_read(tag, text, latin, names, status, diagnostics, unknown_tag, capfd):
+    assert vela.read(tag, text, latin=latin) == vela.Reading(names, status, diagnostics, unknown_tag)
     assert capfd.readouterr() == ("", "")  # complaints stay in the reading
 
 
-@pytest.mark.parametrize(
-    "tag, text",
-    [("ru", "漢"), ("ru", "21₽"), ("日本", "5"), ("ru", "a\0b"), ("xx", "5")],
-)
-def test_bad_tags_and_characters_are_value_errors(tag, text):
-    with pytest.raises(ValueError):
+@pytest.mark.parametrize("tag, text, error", [
+    ("ru", "漢", ValueError), ("ru", "21₽", ValueError), ("日本", "5", ValueError), ("ru", "a\0b", ValueError),
+    ("xx", "5", ValueError), ("ru", b"21", TypeError)])
+def test_bad_tags_and_texts_are_refused(tag, text, error):
+    with pytest.raises(error):
         vela.speak(tag, text)
-
-
-def test_text_must_be_str():
-    with pytest.raises(TypeError):
-        vela.read("ru", b"21")
 
 
 def test_version_is_the_headers():
@@ -66,8 +53,6 @@ def test_loads_the_library_named_by_the_environment():
     tree_library = os.path.join(os.path.dirname(vela.__file__), "..", "..", "build", "libvela.so")
     if not os.path.exists(tree_library):
         pytest.skip("no build/ directory beside the sources")
-    env = {k: v for k, v in os.environ.items() if k != "VELA_LIBRARY"}
-    out = subprocess.run(
-        [sys.executable, "-c", "import vela; print(vela.speak('ru', '5'))"],
-        env=env, capture_output=True, text=True, check=False)
-    assert out.returncode == 0 and out.stdout.strip() == "['пять']", out.stderr
+    out = subprocess.run([sys.executable, "-c", "import vela; print(vela.speak('ru', '5'))"], capture_output=True,
+                         env={k: v for k, v in os.environ.items() if k != "VELA_LIBRARY"}, text=True, check=False)
+    assert (out.returncode, out.stdout) == (0, "['пять']\n"), out.stderr

@@ -23,27 +23,30 @@ COUNT_TABLE = re.compile(r"<!-- prompt counts -->\n(\|.*\|)\n\|[-| ]+\|\n(\|.*\|
 
 def run(command, **kwargs):
     done = subprocess.run(command, capture_output=True, text=True, **kwargs)
-    if done.returncode != 0:
-        raise AssertionError(f"{command} exited with {done.returncode}: {done.stderr}")
+    assert done.returncode == 0, f"{command} exited with {done.returncode}: {done.stderr}"
     return done.stdout
+
+
+def read(path):
+    with open(path, encoding="utf-8") as file:
+        return file.read()
 
 
 def output_of(path, source, build, env):
     """Builds and runs one example; returns what it prints."""
     work = tempfile.mkdtemp(prefix="vela-readme-")
-    program, file = os.path.join(work, "example"), os.path.join(source, path)
-    compile_flags = ["-Wall", "-Werror", "-I" + os.path.join(source, "include"), file, "-L" + build, "-lvela"]
+    program, file, jar = os.path.join(work, "example"), os.path.join(source, path), os.path.join(build, "vela.jar")
+    flags = ["-Wall", "-Werror", "-I" + os.path.join(source, "include"), file, "-L" + build, "-lvela", "-o", program]
     if path.endswith(".c"):
-        run(["cc", "-std=c11", *compile_flags, "-ldl", "-o", program])
+        run(["cc", "-std=c11", *flags, "-ldl"])
         return run([program, os.path.join(build, "libvela.so")], env=env)
     if path.endswith(".cpp"):
-        run(["c++", "-std=c++17", *compile_flags, "-o", program])
+        run(["c++", "-std=c++17", *flags])
         return run([program], env=env)
     if path.endswith(".java"):
-        jar = os.path.join(build, "vela.jar")
         run(["javac", "-cp", jar, "-d", work, file])
-        name = os.path.splitext(os.path.basename(path))[0]
-        return run(["java", "-Djava.library.path=" + build, "-cp", jar + os.pathsep + work, name], env=env)
+        main_class = os.path.basename(path)[:-len(".java")]
+        return run(["java", "-Djava.library.path=" + build, "-cp", jar + os.pathsep + work, main_class], env=env)
     return run([sys.executable, file], env=env)
 
 
@@ -57,13 +60,11 @@ def check_readme(source, build):
         if expected != actual:
             wrong.append(f"{what}: the README says\n{expected}but it gives\n{actual}")
 
-    with open(os.path.join(source, "README.md"), encoding="utf-8") as file:
-        readme = file.read()
+    readme = read(os.path.join(source, "README.md"))
     blocks = MARKED_BLOCK.findall(readme)
     for kind, path, block in blocks:
         if kind in ("example", "excerpt"):
-            with open(os.path.join(source, path), encoding="utf-8") as file:
-                text = file.read()
+            text = read(os.path.join(source, path))
             if kind == "example":
                 compare(f"the example {path}", text, block)
             elif "\n".join(map(str.strip, block.splitlines())) not in "\n".join(map(str.strip, text.splitlines())):
@@ -77,18 +78,13 @@ def check_readme(source, build):
     table = COUNT_TABLE.search(readme)
     if table is None:
         wrong.append("no <!-- prompt counts --> table")
-        return len(blocks), wrong
-    for column, count in zip(table.group(1).strip("|").split("|"), table.group(2).strip("|").split("|")):
+    for column, count in zip(*(row.strip("|").split("|") for row in (table.groups() if table else ()))):
         names = run([os.path.join(build, "vela"), "prompts", "-l", *column.split()], env=env)
         compare(f"prompt count of {column.strip()}", count.strip() + "\n", f"{len(names.splitlines())}\n")
     return len(blocks), wrong
 
 
-def main():
+if __name__ == "__main__":
     blocks, wrong = check_readme(os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2]))
     print("\n".join(wrong + [f"readme: {blocks} marked blocks and the prompt counts, {len(wrong)} wrong"]))
-    return 1 if wrong or blocks == 0 else 0
-
-
-if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(1 if wrong or blocks == 0 else 0)
