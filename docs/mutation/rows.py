@@ -16,12 +16,16 @@ killers: a cut of rows never removes them.
   --within FOLDER: cut only rows of the test files under tests/FOLDER
       the same, twenty times, on random halves of one sample
 
+  rows.py keep --choose DIR --out FILE.json.gz
+      the failures of every mutant in one file, which --choose and --judge also take
+
 --also adds, per mutant (by file and line), the tests matching REGEX that a
 mutants.py run says failed: for outputs of a run that left those tests out.
 """
 import argparse
 import collections
 import glob
+import gzip
 import json
 import os
 import random
@@ -91,24 +95,33 @@ def tied(row, test, message):
         or f" {text} -> [" in message)
 
 
-def killers(directory, rows, also=None, also_tests=None):
+def outputs(source):
+    """Mutant -> (file:line, change, failures), from keep-output.sh's folder or a file `keep` wrote."""
+    if source.endswith(".json.gz"):
+        return {k: (v[0], v[1], [tuple(f) for f in v[2]]) for k, v in json.load(gzip.open(source, "rt")).items()}
+    found = {}
+    for out in glob.glob(f"{source}/*.out"):
+        diff = open(out[:-4] + ".diff").read() if os.path.exists(out[:-4] + ".diff") else ""
+        if diff.strip():
+            where, change = mutant_key(diff)
+            found[f"{where} {change[1:80]}"] = (where, change, sorted(failures(out)))
+    return found
+
+
+def killers(source, rows, also=None, also_tests=None):
     """Mutant -> its killers: row indexes, and names of failures tied to no row."""
     extra = collections.defaultdict(set)
     if also:
         for m in json.load(open(also))["mutants"]:
             extra[f"{m['file']}:{m['line']}"].update(t for t in m.get("tests", []) if re.search(also_tests, t))
     result = {}
-    for out in glob.glob(f"{directory}/*.out"):
-        diff = open(out[:-4] + ".diff").read() if os.path.exists(out[:-4] + ".diff") else ""
-        if not diff.strip():
-            continue
-        where, change = mutant_key(diff)
+    for name, (where, change, failed) in outputs(source).items():
         found = {f"test:{t}" for t in extra[where]}
-        for test, message in failures(out):
+        for test, message in failed:
             hit = [i for i, row in enumerate(rows) if tied(row, test, message)]
             found.update(hit or [f"test:{test}"])
         if found:
-            result[f"{where} {change[1:80]}"] = found
+            result[name] = found
     return result
 
 
@@ -137,14 +150,19 @@ def lost(kills, cut):
 
 def main():
     parser = argparse.ArgumentParser()
-    parser.add_argument("what", choices=["cut", "halves"])
+    parser.add_argument("what", choices=["cut", "halves", "keep"])
     parser.add_argument("--choose", required=True)
     parser.add_argument("--also")
     parser.add_argument("--also-tests", default=".")
     parser.add_argument("--judge")
-    parser.add_argument("--rows", type=int, required=True)
+    parser.add_argument("--rows", type=int, default=0)
+    parser.add_argument("--out", help="keep: the file to write")
     parser.add_argument("--within", default="", help="cut only rows of test files under this folder")
     a = parser.parse_args()
+    if a.what == "keep":
+        with gzip.open(a.out, "wt") as out:
+            json.dump(outputs(a.choose), out, ensure_ascii=True, indent=0)
+        return
     rows = table_rows()
     first = killers(a.choose, rows, a.also, a.also_tests)
     print(f"{len(rows)} table rows; {len(first)} mutants killed in {a.choose}")
