@@ -72,8 +72,8 @@ void compareRules(const std::string& text, Tally& tally) {
     for (int k = 0; k < TokenMatch::kGroups; ++k) {
       if (match.group[k] != expected.groups[k]) {
         tally.fail("rule " + std::to_string(rule + 1) + " group " + std::to_string(k) + " " +
-                   escaped(std::string(match.group[k])) + " instead of " + escaped(expected.groups[k]) + ": " +
-                   escaped(text));
+                   escaped(std::string(match.group[k])) + " instead of " + escaped(expected.groups[k]) +
+                   ": " + escaped(text));
       }
     }
   }
@@ -86,7 +86,8 @@ void compareAnswer(IGrammar& grammar, const std::string& text, Tally& tally) {
   runRules(decoder);
   ++tally.answers;
   if (!gaveUp && decoder.output != expected) {
-    tally.fail("answer " + escaped(decoder.output) + " instead of " + escaped(expected) + ": " + escaped(text));
+    tally.fail("answer " + escaped(decoder.output) + " instead of " + escaped(expected) + ": " +
+               escaped(text));
   }
 }
 
